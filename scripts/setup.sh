@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Shared set-up of run.sh and test.sh: installs missing Debian packages, then configures a build folder.
+# Usage: source scripts/setup.sh; flexley_install_packages; flexley_configure BUILD_DIR [cmake options...]
+set -euo pipefail
+
+FLEXLEY_ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+FLEXLEY_PACKAGES=(g++ cmake ninja-build libgtest-dev libbenchmark-dev nlohmann-json3-dev)
+
+flexley_install_packages() {
+    local missing=()
+    local package
+    for package in "${FLEXLEY_PACKAGES[@]}"; do
+        dpkg -s "$package" >/dev/null 2>&1 || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+
+    echo "Installing missing packages: ${missing[*]}"
+    local sudo=""
+    [ "$(id -u)" -ne 0 ] && sudo="sudo"
+    $sudo apt-get update
+    DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y --no-install-recommends "${missing[@]}"
+}
+
+flexley_configure() {
+    local build_dir="$1"
+    shift
+    cmake -S "$FLEXLEY_ROOT" -B "$build_dir" -G Ninja "$@"
+}
