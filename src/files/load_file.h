@@ -1,0 +1,48 @@
+// Reading and writing load configuration files: one whole beam as comma-separated text lines.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/beam_model.h"
+#include "model/status.h"
+
+namespace flexley {
+
+inline constexpr const char* kFileAccessError = "File access error";
+// Asked by the Save dialog before it replaces an existing file; the writer itself never asks.
+inline constexpr const char* kOverwriteQuestion = "File exists.  Do you wish to overwrite?";
+
+// The current layout, or the older one with five fields on line 3 and one intensity per
+// distributed load. Nothing in a file tells the two apart; the user's command chooses.
+enum class LoadFormat { current, version1 };
+
+// What the Loading Screen must create for a feature number after a file was read: the feature's
+// own label group, or four blank placeholders that keep the number's places (a removed feature).
+enum class LabelGroup { feature, placeholder };
+
+struct LoadResult {
+    Status status = Status::success();
+    // label_groups[n - 1] belongs to feature number n; empty when reading failed.
+    std::vector<LabelGroup> label_groups;
+};
+
+// The file's text, CRLF line ends included.
+std::string load_configuration_text(const BeamModel& model);
+
+// Writes the model to `path` without ever leaving a half-written file there: the text goes to a
+// temporary file in the same directory, which replaces the target only once it is complete.
+// On failure the old file is untouched and the message says why.
+Status write_load_configuration(const BeamModel& model, const std::string& path);
+
+// Empties the beam (clear_beam) and reads the text into it. Any fault gives kFileAccessError and
+// an empty beam; the length and unit flags keep what was read before the fault.
+LoadResult read_load_configuration_text(std::string_view text, BeamModel& model,
+                                        LoadFormat format = LoadFormat::current);
+
+// The same, from a file. A missing or unreadable file, or a directory, is a fault as well.
+LoadResult read_load_configuration(const std::string& path, BeamModel& model,
+                                   LoadFormat format = LoadFormat::current);
+
+}  // namespace flexley
