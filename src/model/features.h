@@ -39,8 +39,8 @@ inline constexpr const char* kInvalidFeatureNumber = "Invalid feature number.";
 
 // Adding appends to the kind's table and the feature list and keeps the drawing scale of the kind.
 // A full table or feature list refuses the addition and leaves the model as it was.
-Status add_point_load(BeamModel& model, double magnitude, double location,
-                      std::string loc_unit, std::string mag_unit);
+Status add_point_load(BeamModel& model, double magnitude, double location, std::string loc_unit,
+                      std::string mag_unit);
 Status add_distributed_load(BeamModel& model, double start, double end, double mag_start,
                             double mag_end, std::string loc_unit, std::string mag_unit);
 Status add_moment(BeamModel& model, double magnitude, double location, std::string loc_unit,

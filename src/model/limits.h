@@ -8,7 +8,8 @@ inline constexpr int kMaxDistributedLoads = 50;
 inline constexpr int kMaxMoments = 50;
 inline constexpr int kMaxSupports = 20;
 inline constexpr int kMaxCantilevers = 2;
-inline constexpr int kMaxFeatures = kMaxPointLoads + kMaxDistributedLoads + kMaxMoments + kMaxSupports;
+inline constexpr int kMaxFeatures =
+    kMaxPointLoads + kMaxDistributedLoads + kMaxMoments + kMaxSupports;
 
 inline constexpr float kDefaultResolution = 10000.0f;
 inline constexpr float kMinResolution = 10.0f;

@@ -7,14 +7,14 @@
 namespace flexley {
 
 class Status {
-public:
+  public:
     static Status success() { return Status(); }
     static Status failure(std::string message) { return Status(std::move(message)); }
 
     bool ok() const { return message_.empty(); }
     const std::string& message() const { return message_; }
 
-private:
+  private:
     Status() = default;
     explicit Status(std::string message) : message_(std::move(message)) {}
 

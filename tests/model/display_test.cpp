@@ -1,0 +1,65 @@
+// Number text and display rounding: the forms users see and the tie rules.
+#include <gtest/gtest.h>
+
+#include "model/display.h"
+
+namespace flexley {
+namespace {
+
+struct TextCase {
+    double value;
+    int digits;
+    const char* text;
+};
+
+class NumberText : public ::testing::TestWithParam<TextCase> {};
+
+TEST_P(NumberText, GivesPlainOrExponentForm) {
+    EXPECT_EQ(number_text(GetParam().value, GetParam().digits), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Forms, NumberText,
+    ::testing::Values(TextCase{0.0, 15, "0"}, TextCase{-0.0, 15, "0"}, TextCase{12.5, 15, "12.5"},
+                      TextCase{12345, 15, "12345"}, TextCase{0.00123, 15, "0.00123"},
+                      TextCase{-3, 15, "-3"}, TextCase{0.1 + 0.2, 15, "0.3"},
+                      TextCase{1.5e20, 15, "1.5E+20"}, TextCase{2.5e-7, 15, "2.5E-07"},
+                      TextCase{1e-5, 15, "0.00001"}, TextCase{9.9e-6, 15, "9.9E-06"},
+                      TextCase{999999999999999.0, 15, "999999999999999"},
+                      TextCase{1e15, 15, "1E+15"}, TextCase{-1e100, 15, "-1E+100"},
+                      TextCase{0.9999999999999999, 15, "1"}, TextCase{1.0 / 3.0, 7, "0.3333333"},
+                      TextCase{2000.0f, 7, "2000"}, TextCase{29000000.0f, 7, "29000000"},
+                      TextCase{123456789.0, 7, "123456800"}));
+
+struct RoundCase {
+    double value;
+    int sig_figs;
+    const char* shown;
+};
+
+class SigRound : public ::testing::TestWithParam<RoundCase> {};
+
+TEST_P(SigRound, KeepsSignificantFiguresWithTiesToEven) {
+    EXPECT_EQ(display_number(GetParam().value, GetParam().sig_figs), GetParam().shown);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Examples, SigRound,
+    ::testing::Values(RoundCase{1234.5678, 4, "1235"}, RoundCase{-0.000123456, 4, "-0.0001235"},
+                      RoundCase{1.23456789e20, 4, "1.235E+20"}, RoundCase{0.0, 4, "0"},
+                      RoundCase{99999, 4, "100000"}, RoundCase{25, 1, "20"}, RoundCase{35, 1, "40"},
+                      RoundCase{0.125, 2, "0.12"}, RoundCase{-0.5, 1, "-0.5"},
+                      RoundCase{-25, 1, "-20"}, RoundCase{2.5, 1, "2"}, RoundCase{3.5, 1, "4"},
+                      // 0.15 is just below 0.15 in binary, but its text is an exact decimal tie.
+                      RoundCase{0.15, 1, "0.2"}, RoundCase{2.5e-7, 1, "2E-07"},
+                      RoundCase{2.51e-7, 1, "3E-07"}, RoundCase{9.96e20, 2, "1E+21"},
+                      RoundCase{1250.0001, 2, "1300"}, RoundCase{83.333333333, 3, "83.3"},
+                      RoundCase{0.1 + 0.2, 15, "0.3"}, RoundCase{123.456, 20, "123.456"}));
+
+TEST(SigRound, ReturnsTheRoundedNumber) {
+    EXPECT_DOUBLE_EQ(sig_round(1234.5678, 4), 1235.0);
+    EXPECT_DOUBLE_EQ(sig_round(-0.000123456, 4), -0.0001235);
+}
+
+}  // namespace
+}  // namespace flexley

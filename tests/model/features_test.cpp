@@ -1,0 +1,189 @@
+// Feature list upkeep: numbering, scale tracking, capacities, removal and clearing.
+#include <gtest/gtest.h>
+
+#include "model/features.h"
+
+namespace flexley {
+namespace {
+
+TEST(FeatureEntry, ParsesKindAndIndex) {
+    struct Case {
+        const char* entry;
+        bool valid;
+        FeatureKind kind;
+        int index;
+    };
+    const Case cases[] = {
+        {"pt3", true, FeatureKind::point_load, 3},
+        {"di50", true, FeatureKind::distributed_load, 50},
+        {"mo1", true, FeatureKind::moment, 1},
+        {"su12", true, FeatureKind::support, 12},
+        {"pt", false, {}, 0},
+        {"xx3", false, {}, 0},
+        {"pt0", false, {}, 0},
+        {"pt-1", false, {}, 0},
+        {"pt3a", false, {}, 0},
+        {"pt 3", false, {}, 0},
+        {"PT3", false, {}, 0},
+        {"pt99999999999", false, {}, 0},
+    };
+    for (const auto& c : cases) {
+        const auto parsed = parse_feature_entry(c.entry);
+        ASSERT_EQ(parsed.has_value(), c.valid) << c.entry;
+        if (c.valid) {
+            EXPECT_EQ(parsed->kind, c.kind) << c.entry;
+            EXPECT_EQ(parsed->index, c.index) << c.entry;
+        }
+    }
+}
+
+TEST(AddFeature, NumbersFeaturesAcrossKindsInOrderOfAdding) {
+    BeamModel model;
+    model.beam_length = 120;
+    ASSERT_TRUE(add_point_load(model, 100, 60, "ft", "lb").ok());
+    ASSERT_TRUE(add_support(model, 0, "simp", "in", "lb").ok());
+    ASSERT_TRUE(add_distributed_load(model, 0, 120, 1, 2, "in", "pi").ok());
+    ASSERT_TRUE(add_moment(model, -50, 30, "ft", "pf").ok());
+    ASSERT_TRUE(add_point_load(model, 200, 90, "in", "lb").ok());
+
+    EXPECT_EQ(model.feature_count, 5);
+    const char* expected[] = {"", "pt1", "su1", "di1", "mo1", "pt2"};
+    for (int n = 1; n <= 5; ++n)
+        EXPECT_EQ(model.feature_list[n], expected[n]);
+    EXPECT_EQ(model.loc_unit[4], "ft");
+    EXPECT_EQ(model.mag_unit[4], "pf");
+    const auto fifth = lookup_feature(model, 5);
+    ASSERT_TRUE(fifth);
+    EXPECT_EQ(fifth->index, 2);
+    EXPECT_FALSE(lookup_feature(model, 0));
+    EXPECT_FALSE(lookup_feature(model, 6));
+    EXPECT_EQ(feature_number_of(model, {FeatureKind::distributed_load, 1}), 3);
+    EXPECT_EQ(feature_number_of(model, {FeatureKind::moment, 2}), 0);
+}
+
+TEST(AddFeature, TracksTheLargestMagnitudeOfEachKind) {
+    BeamModel model;
+    struct Step {
+        double magnitude;
+        double maxmag;
+        double scalemag;
+    };
+    // The first load always becomes the largest; an equal one moves the old largest to the scale.
+    const Step steps[] = {{-5, 5, 0}, {3, 5, 0}, {-5, 5, 5}, {8, 8, 5}, {-2, 8, 5}};
+    for (const auto& step : steps) {
+        ASSERT_TRUE(add_point_load(model, step.magnitude, 1, "in", "lb").ok());
+        EXPECT_EQ(model.pt_maxmag, step.maxmag);
+        EXPECT_EQ(model.pt_scalemag, step.scalemag);
+    }
+    ASSERT_TRUE(add_distributed_load(model, 0, 1, 2, -7, "in", "pi").ok());
+    ASSERT_TRUE(add_distributed_load(model, 0, 1, 6, 0, "in", "pi").ok());
+    EXPECT_EQ(model.di_maxmag, 7);
+    ASSERT_TRUE(add_moment(model, 40, 1, "in", "pi").ok());
+    ASSERT_TRUE(add_moment(model, -40, 1, "in", "pi").ok());
+    EXPECT_EQ(model.mo_maxmag, 40);
+    EXPECT_EQ(model.mo_scalemag, 40);
+}
+
+TEST(AddFeature, RefusesBeyondCapacityAndLeavesTablesUnchanged) {
+    BeamModel model;
+    for (int i = 0; i < kMaxSupports; ++i)
+        ASSERT_TRUE(add_support(model, i, "simp", "", "").ok());
+    const auto refused = add_support(model, 3, "simp", "", "");
+    EXPECT_EQ(refused.message(), "No more supports can be added: a beam holds at most 20.");
+    EXPECT_EQ(model.su_count, kMaxSupports);
+    EXPECT_EQ(model.feature_count, kMaxSupports);
+
+    for (int i = 0; i < kMaxPointLoads; ++i)
+        ASSERT_TRUE(add_point_load(model, 1, 0, "", "").ok());
+    EXPECT_EQ(add_point_load(model, 99, 0, "", "").message(),
+              "No more point loads can be added: a beam holds at most 50.");
+    EXPECT_EQ(model.pt_maxmag, 1);
+
+    // A file can bring a full feature list with room left in a table.
+    model.feature_count = kMaxFeatures;
+    EXPECT_EQ(add_moment(model, 1, 0, "", "").message(),
+              "No more features can be added: a beam holds at most 170.");
+    EXPECT_EQ(model.mo_count, 0);
+}
+
+TEST(RemoveFeature, NeutralisesInPlaceAndRescansTheLargest) {
+    BeamModel model;
+    ASSERT_TRUE(add_point_load(model, 10, 1, "in", "lb").ok());
+    ASSERT_TRUE(add_point_load(model, -30, 2, "in", "lb").ok());
+    ASSERT_TRUE(add_point_load(model, 20, 3, "in", "lb").ok());
+    ASSERT_TRUE(add_support(model, 0, "cant", "", "lb").ok());
+    ASSERT_TRUE(add_distributed_load(model, 0, 5, 4, -9, "in", "pi").ok());
+    ASSERT_TRUE(add_distributed_load(model, 0, 5, 6, 1, "in", "pi").ok());
+    ASSERT_TRUE(add_moment(model, 7, 1, "in", "pi").ok());
+
+    ASSERT_TRUE(remove_feature(model, 1).ok());  // not the largest: the scale stays
+    EXPECT_EQ(model.pt_mag[1], 0);
+    EXPECT_EQ(model.pt_loc[1], 1);
+    EXPECT_EQ(model.pt_maxmag, 30);
+    EXPECT_EQ(model.pt_scalemag, 10);
+
+    ASSERT_TRUE(remove_feature(model, 2).ok());  // the largest: rescan, scale value reset
+    EXPECT_EQ(model.pt_maxmag, 20);
+    EXPECT_EQ(model.pt_scalemag, 0);
+
+    ASSERT_TRUE(remove_feature(model, 5).ok());
+    EXPECT_EQ(model.di_mag_start[1], 0);
+    EXPECT_EQ(model.di_mag_end[1], 0);
+    EXPECT_EQ(model.di_maxmag, 6);
+
+    ASSERT_TRUE(remove_feature(model, 7).ok());  // the only moment
+    EXPECT_EQ(model.mo_maxmag, 0);
+
+    ASSERT_TRUE(remove_feature(model, 4).ok());
+    EXPECT_EQ(model.su_loc[1], -1);
+    EXPECT_EQ(model.su_type[1], "cant");
+    EXPECT_TRUE(is_removed(model, {FeatureKind::support, 1}));
+
+    EXPECT_EQ(remove_feature(model, 8).message(), "Invalid feature number.");
+    EXPECT_EQ(model.pt_count, 3);
+    EXPECT_EQ(model.feature_count, 7);
+    ASSERT_TRUE(add_moment(model, 1, 1, "in", "pi").ok());
+    EXPECT_EQ(model.feature_list[8], "mo2");  // feature numbers are never reused
+}
+
+TEST(ClearBeam, EmptiesTablesButKeepsLengthUnitsAndPrecision) {
+    BeamModel model;
+    model.metric_units = true;
+    model.beam_length = 5;
+    model.sig_figs = 6;
+    model.resolution = 500;
+    model.moment_of_inertia = 1e-5f;
+    model.elastic_modulus = 2e11f;
+    model.fibre_distance = 0.1f;
+    model.pt_drawn = 1;
+    ASSERT_TRUE(add_point_load(model, 2000, 2, "m", "N").ok());
+    ASSERT_TRUE(add_support(model, 0, "simp", "", "").ok());
+    ASSERT_TRUE(add_distributed_load(model, 0, 5, 1, 2, "m", "N").ok());
+
+    clear_beam(model);
+
+    EXPECT_EQ(model.pt_count + model.di_count + model.mo_count + model.su_count, 0);
+    EXPECT_EQ(model.feature_count, 0);
+    EXPECT_EQ(model.pt_drawn, 0);
+    EXPECT_EQ(model.pt_maxmag + model.di_maxmag + model.di_scalemag, 0);
+    EXPECT_EQ(model.pt_mag[1], 0);
+    EXPECT_EQ(model.su_type[1], "");
+    EXPECT_EQ(model.feature_list[1], "");
+    EXPECT_EQ(model.resolution, kDefaultResolution);
+    EXPECT_EQ(model.moment_of_inertia, 0);
+    EXPECT_TRUE(model.metric_units);
+    EXPECT_EQ(model.beam_length, 5);
+    EXPECT_EQ(model.sig_figs, 6);
+}
+
+TEST(ClearBeam, SurvivesCountsBeyondTheTables) {
+    BeamModel model;
+    model.pt_count = 32000;
+    model.feature_count = 32000;
+    clear_beam(model);
+    EXPECT_EQ(model.pt_count, 0);
+    EXPECT_EQ(model.feature_count, 0);
+}
+
+}  // namespace
+}  // namespace flexley
