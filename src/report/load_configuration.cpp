@@ -1,0 +1,161 @@
+// Lists every load and support in the units the user entered it in, with optional reactions.
+#include "report/load_configuration.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "model/features.h"
+#include "model/limits.h"
+#include "model/units.h"
+#include "report/layout.h"
+#include "report/unit_choice.h"
+
+namespace flexley {
+
+namespace {
+
+// Every loop below stops at the table's capacity, whatever its count says.
+
+struct FeatureUnits {
+    std::string_view loc;
+    std::string_view mag;
+};
+
+// The unit codes of a feature number; none for 0, which stands for no feature.
+FeatureUnits units_of(const BeamModel& model, int feature) {
+    if (feature == 0) return {};
+    return {model.loc_unit[feature], model.mag_unit[feature]};
+}
+
+// The units of a table entry are those of the first feature that names it.
+FeatureUnits units_of(const BeamModel& model, FeatureRef entry) {
+    return units_of(model, feature_number_of(model, entry));
+}
+
+// Positions of loads and supports follow the feature's position code, not the beam's length.
+std::string position_text(const BeamModel& model, double position, FeatureUnits units) {
+    return value_text(position_value(position, model.metric_units, units.loc == "in"),
+                      model.sig_figs);
+}
+
+ScaledValue point_load(double magnitude, bool metric, FeatureUnits units) {
+    if (!metric) return {magnitude, " lb."};
+    if (units.mag == "N") return {magnitude, " N"};
+    return {magnitude * kNewtonToKilogram, " kg"};
+}
+
+ScaledValue intensity(double magnitude, bool metric, FeatureUnits units) {
+    if (!metric) {
+        if (units.mag == "pi") return {magnitude, " lb./in."};
+        return {magnitude * kFootToInch, " lb./ft."};
+    }
+    if (units.mag == "N") return {magnitude, " N/m"};
+    return {magnitude * kNewtonToKilogram, " kg/m"};
+}
+
+ScaledValue moment_load(double magnitude, bool metric, FeatureUnits units) {
+    if (!metric) {
+        if (units.mag == "pi") return {magnitude, " lb.-in."};
+        return {magnitude / kFootToInch, " lb.-ft."};
+    }
+    if (units.mag == "N") return {magnitude, " N-m"};
+    return {magnitude * kNewtonToKilogram, " kg-m"};
+}
+
+void append_heading(std::vector<std::string>& lines, const char* heading, std::size_t rule) {
+    lines.emplace_back();
+    lines.emplace_back(std::string(kItemIndent) + heading);
+    lines.push_back(subsection_rule(rule));
+}
+
+void append_point_loads(std::vector<std::string>& lines, const BeamModel& model) {
+    append_heading(lines, "Point Loads", 18);
+    for (int k = 1; k <= std::min<int>(model.pt_count, kMaxPointLoads); ++k) {
+        const FeatureRef entry{FeatureKind::point_load, k};
+        if (is_removed(model, entry)) continue;
+        const auto units = units_of(model, entry);
+        lines.push_back(
+            kItemIndent +
+            value_text(point_load(model.pt_mag[k], model.metric_units, units), model.sig_figs) +
+            ", x=" + position_text(model, model.pt_loc[k], units));
+    }
+}
+
+void append_distributed_loads(std::vector<std::string>& lines, const BeamModel& model) {
+    append_heading(lines, "Distributed Loads", 27);
+    for (int k = 1; k <= std::min<int>(model.di_count, kMaxDistributedLoads); ++k) {
+        const FeatureRef entry{FeatureKind::distributed_load, k};
+        if (is_removed(model, entry)) continue;
+        const auto units = units_of(model, entry);
+        auto end_text = [&](double magnitude, double position) {
+            return value_text(intensity(magnitude, model.metric_units, units), model.sig_figs) +
+                   ", x=" + position_text(model, position, units);
+        };
+        lines.push_back(kItemIndent + std::string("Start=") +
+                        end_text(model.di_mag_start[k], model.di_start[k]) +
+                        "; End=" + end_text(model.di_mag_end[k], model.di_end[k]));
+    }
+}
+
+void append_moments(std::vector<std::string>& lines, const BeamModel& model) {
+    append_heading(lines, "Moments", 15);
+    for (int k = 1; k <= std::min<int>(model.mo_count, kMaxMoments); ++k) {
+        const FeatureRef entry{FeatureKind::moment, k};
+        if (is_removed(model, entry)) continue;
+        const auto units = units_of(model, entry);
+        lines.push_back(
+            kItemIndent +
+            value_text(moment_load(model.mo_mag[k], model.metric_units, units), model.sig_figs) +
+            ", x=" + position_text(model, model.mo_loc[k], units));
+    }
+}
+
+// The reaction vector holds the cantilever moments first (the first cantilever is system
+// support 1, the second system support n), then one force per support in system order.
+// A support added since the last run is not in the system and gets no text.
+std::string reaction_text(const BeamModel& model, int feature) {
+    const int n = std::min<int>(model.reaction_count, kMaxSupports);
+    const auto* first = &model.reaction_feature[1];
+    const auto place = std::find(first, first + n, feature);
+    if (feature == 0 || place == first + n) return {};
+    const int j = static_cast<int>(place - first) + 1;
+    const int m = model.cantilever_count;
+    const std::string_view force_unit = model.metric_units ? " N" : " lb.";
+    const std::string_view moment_unit = model.metric_units ? " N-m" : " lb.-in.";
+    std::string text =
+        ", Reaction=" + value_text({model.reaction[j + m], force_unit}, model.sig_figs);
+    if (m >= 1 && j == 1) {
+        text += ", " + value_text({model.reaction[1], moment_unit}, model.sig_figs);
+    } else if (m == 2 && j == n) {
+        text += ", " + value_text({model.reaction[2], moment_unit}, model.sig_figs);
+    }
+    return text;
+}
+
+void append_supports(std::vector<std::string>& lines, const BeamModel& model, bool with_reactions) {
+    append_heading(lines, "Supports", 16);
+    for (int k = 1; k <= std::min<int>(model.su_count, kMaxSupports); ++k) {
+        const FeatureRef entry{FeatureKind::support, k};
+        if (is_removed(model, entry)) continue;
+        const int feature = feature_number_of(model, entry);
+        const auto units = units_of(model, feature);
+        std::string line = kItemIndent;
+        line += model.su_type[k] == "simp" ? "Simple support; " : "Cantilever support; ";
+        line += position_text(model, model.su_loc[k], units);
+        if (with_reactions) line += reaction_text(model, feature);
+        lines.push_back(std::move(line));
+    }
+}
+
+}  // namespace
+
+void append_load_configuration(std::vector<std::string>& lines, const BeamModel& model,
+                               bool with_reactions) {
+    open_section(lines, "LOAD CONFIGURATION", 36);
+    append_point_loads(lines, model);
+    append_distributed_loads(lines, model);
+    append_moments(lines, model);
+    append_supports(lines, model, with_reactions);
+}
+
+}  // namespace flexley
