@@ -1,0 +1,282 @@
+// flexley-cli: usage and exit codes, the JSON and CSV shapes, conversion and the report.
+#include <gtest/gtest.h>
+#include <stdlib.h>
+#include <sys/wait.h>
+
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "cli/run_cli.h"
+#include "files/load_file.h"
+#include "model/features.h"
+
+namespace flexley::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Outcome {
+    int code;
+    std::string out;
+    std::string err;
+};
+
+Outcome run(const std::vector<std::string>& arguments) {
+    std::ostringstream out, err;
+    const int code = run_cli(arguments, out, err);
+    return {code, out.str(), err.str()};
+}
+
+std::string read_file(const fs::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+class CliTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        std::string pattern = (fs::temp_directory_path() / "flexley-cli-XXXXXX").string();
+        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+        dir_ = pattern;
+    }
+    void TearDown() override { fs::remove_all(dir_); }
+
+    // A 120 in. English beam on simple supports at both ends with 1000 lb at mid-span.
+    std::string simple_beam(bool with_properties = true) {
+        BeamModel model;
+        model.beam_length = 120;
+        model.resolution = 1000;
+        if (with_properties) {
+            model.moment_of_inertia = 100.0f;
+            model.elastic_modulus = 30e6f;
+            model.fibre_distance = 4.0f;
+        }
+        EXPECT_TRUE(add_point_load(model, 1000, 60, "ft", "lb").ok());
+        EXPECT_TRUE(add_support(model, 0, "simp", "ft", "lb").ok());
+        EXPECT_TRUE(add_support(model, 120, "simp", "ft", "lb").ok());
+        return save(model, "simple.lod");
+    }
+
+    // A 100 in. cantilever fixed at the left end with 10 lb/in over its whole length.
+    std::string cantilever_beam() {
+        BeamModel model;
+        model.beam_length = 100;
+        model.moment_of_inertia = 50.0f;
+        model.elastic_modulus = 10e6f;
+        model.fibre_distance = 2.0f;
+        EXPECT_TRUE(add_support(model, 0, "cant", "", "lb").ok());
+        EXPECT_TRUE(add_distributed_load(model, 0, 100, 10, 10, "in", "pi").ok());
+        return save(model, "cantilever.lod");
+    }
+
+    std::string save(const BeamModel& model, const std::string& name) {
+        const std::string path = (dir_ / name).string();
+        EXPECT_TRUE(write_load_configuration(model, path).ok());
+        return path;
+    }
+
+    fs::path dir_;
+};
+
+TEST_F(CliTest, UsageErrorsPrintUsageAndExitOne) {
+    const std::string file = simple_beam();
+    const std::vector<std::vector<std::string>> command_lines = {
+        {},
+        {"bogus", file},
+        {"analyze"},
+        {"analyze", file, file},
+        {"analyze", file, "--resolution", "9"},
+        {"analyze", file, "--resolution", "200001"},
+        {"analyze", file, "--resolution", "many"},
+        {"analyze", file, "--at"},
+        {"analyze", file, "--at", "middle"},
+        {"table", file, "--json"},
+        {"convert", file},
+        {"convert", file, "out.lod", "--metric", "--english"},
+        {"report", file, "--sig-figs", "0"},
+        {"report", file, "--sig-figs", "16"},
+        {"report", file, "--unit", "cm"},
+        {"report", file, "--metric"},
+    };
+    for (const auto& arguments : command_lines) {
+        const auto outcome = run(arguments);
+        EXPECT_EQ(outcome.code, kExitUsage) << ::testing::PrintToString(arguments);
+        EXPECT_NE(outcome.err.find("usage:"), std::string::npos);
+        EXPECT_EQ(outcome.out, "");
+    }
+}
+
+TEST_F(CliTest, FileAndPreconditionFailuresHaveTheirOwnExitCodes) {
+    struct Case {
+        std::vector<std::string> arguments;
+        int code;
+        std::string err;
+    };
+    const std::string missing = (dir_ / "missing.lod").string();
+    const std::string no_properties = simple_beam(false);
+    const std::vector<Case> cases = {
+        {{"analyze", missing}, kExitFileError, "File access error\n"},
+        {{"table", dir_.string()}, kExitFileError, "File access error\n"},
+        {{"report", missing}, kExitFileError, "File access error\n"},
+        {{"analyze", no_properties}, kExitRefused,
+         "Enter beam properties before calculating deflection.\n"},
+        {{"report", no_properties}, kExitRefused,
+         "Enter beam properties before calculating deflection.\n"},
+        {{"analyze", simple_beam(), "--at", "121"}, kExitUsage, "Invalid location.\n"},
+        {{"report", simple_beam(), "--point", "10.5"}, kExitUsage, "Invalid location.\n"},
+        {{"convert", simple_beam(), (dir_ / "no-such-dir" / "out").string()}, kExitFileError, ""},
+    };
+    for (const auto& c : cases) {
+        const auto outcome = run(c.arguments);
+        EXPECT_EQ(outcome.code, c.code) << ::testing::PrintToString(c.arguments);
+        if (!c.err.empty()) EXPECT_EQ(outcome.err, c.err);
+    }
+}
+
+TEST_F(CliTest, JsonGivesReactionsMaximaAndPointsInBaseUnits) {
+    const auto outcome = run({"analyze", simple_beam(), "--json", "--at", "60", "--at", "0.06"});
+    ASSERT_EQ(outcome.code, kExitSuccess) << outcome.err;
+    const auto json = nlohmann::json::parse(outcome.out);
+
+    EXPECT_EQ(json["units"], "english");
+    EXPECT_EQ(json["beam_length"], 120.0);
+    EXPECT_EQ(json["resolution"], 1000.0);
+    ASSERT_EQ(json["reactions"].size(), 2u);
+    for (int j = 0; j < 2; ++j) {
+        const auto& reaction = json["reactions"][j];
+        EXPECT_EQ(reaction["feature"], j + 2);
+        EXPECT_EQ(reaction["kind"], "simp");
+        EXPECT_NEAR(reaction["force"].get<double>(), 500.0, 1e-9);
+        EXPECT_TRUE(reaction["moment"].is_null());
+    }
+    EXPECT_EQ(json["reactions"][1]["position"], 120.0);
+
+    const double ei = 30e6 * 100.0;
+    const double centre_deflection = -1000.0 * 120 * 120 * 120 / (48 * ei);
+    EXPECT_NEAR(json["max"]["moment"]["value"].get<double>(), 30000.0, 1e-6);
+    EXPECT_NEAR(json["max"]["moment"]["at"].get<double>(), 60.0, 0.12);
+    EXPECT_NEAR(json["max"]["stress"]["value"].get<double>(), 30000.0 * 4 / 100, 1e-6);
+    EXPECT_NEAR(json["max"]["deflection"]["value"].get<double>(), centre_deflection,
+                1e-4 * std::fabs(centre_deflection));
+    EXPECT_NEAR(json["max"]["slope"]["value"].get<double>(),
+                1000.0 * 120 * 120 / (16 * ei), 1e-3 * 1000.0 * 120 * 120 / (16 * ei));
+
+    ASSERT_EQ(json["at"].size(), 2u);
+    EXPECT_EQ(json["at"][0]["x"], 60.0);
+    EXPECT_NEAR(json["at"][0]["deflection"].get<double>(), centre_deflection,
+                1e-4 * std::fabs(centre_deflection));
+    // 0.06 in. is half a grid interval: the even point, x = 0, is taken.
+    EXPECT_EQ(json["at"][1]["moment"], 0.0);
+}
+
+TEST_F(CliTest, JsonGivesTheMomentReactionOfAFixedSupport) {
+    const auto outcome = run({"analyze", cantilever_beam(), "--json", "--resolution", "100"});
+    ASSERT_EQ(outcome.code, kExitSuccess) << outcome.err;
+    const auto json = nlohmann::json::parse(outcome.out);
+    EXPECT_EQ(json["resolution"], 100.0);
+    ASSERT_EQ(json["reactions"].size(), 1u);
+    EXPECT_EQ(json["reactions"][0]["kind"], "cant");
+    EXPECT_NEAR(json["reactions"][0]["force"].get<double>(), 1000.0, 1e-9);
+    EXPECT_NEAR(json["reactions"][0]["moment"].get<double>(), 50000.0, 1e-6);
+}
+
+TEST_F(CliTest, SummaryShowsReactionsAndMaximaAsTheProgramDoes) {
+    const auto outcome = run({"analyze", simple_beam()});
+    ASSERT_EQ(outcome.code, kExitSuccess) << outcome.err;
+    EXPECT_NE(outcome.out.find("Feature 2, simple support at x=0 ft.: 500 lb."), std::string::npos)
+        << outcome.out;
+    EXPECT_NE(outcome.out.find("Bending moment  2500 lb.-ft. at x=5 ft."), std::string::npos)
+        << outcome.out;
+}
+
+TEST_F(CliTest, TableHasOneLinePerGridPoint) {
+    const auto outcome = run({"table", simple_beam(), "--resolution", "10"});
+    ASSERT_EQ(outcome.code, kExitSuccess) << outcome.err;
+    std::istringstream lines(outcome.out);
+    std::string line;
+    std::getline(lines, line);
+    EXPECT_EQ(line, "x,moment,stress,slope,deflection");
+    std::vector<std::string> rows;
+    while (std::getline(lines, line)) rows.push_back(line);
+    ASSERT_EQ(rows.size(), 11u);
+    EXPECT_EQ(rows[5].substr(0, 9), "60,30000,");
+    EXPECT_EQ(rows[10].substr(0, 6), "120,0,");
+}
+
+TEST_F(CliTest, ConvertWritesTheSameBytesBackAndCompletesTheName) {
+    const std::string file = simple_beam();
+    const auto same = run({"convert", file, (dir_ / "copy").string()});
+    ASSERT_EQ(same.code, kExitSuccess) << same.err;
+    EXPECT_EQ(read_file(dir_ / "copy.lod"), read_file(file));
+
+    const auto metric = run({"convert", file, (dir_ / "metric.lod").string(), "--metric"});
+    ASSERT_EQ(metric.code, kExitSuccess) << metric.err;
+    BeamModel model;
+    ASSERT_TRUE(read_load_configuration((dir_ / "metric.lod").string(), model).status.ok());
+    EXPECT_TRUE(model.metric_units);
+    EXPECT_DOUBLE_EQ(model.beam_length, 120 * 0.0254);
+}
+
+TEST_F(CliTest, ConvertMigratesAVersion1File) {
+    const std::string old_file = (dir_ / "old.lod").string();
+    std::ofstream(old_file, std::ios::binary)
+        << "0,1,0,2,0,1,0,2,3,\r\n120,0,0,0,0,12,0\r\n2,10,29000000,10000,#FALSE#\r\n"
+           "12,0,120\r\n0,\"simp\"\r\n120,\"simp\"\r\n\"di1\",\"in\",\"pi\"\r\n"
+           "\"su1\",\"in\",\"lb\"\r\n\"su2\",\"in\",\"lb\"\r\n";
+    const auto outcome = run({"convert", old_file, (dir_ / "new.lod").string(), "--v1"});
+    ASSERT_EQ(outcome.code, kExitSuccess) << outcome.err;
+    const std::string text = read_file(dir_ / "new.lod");
+    EXPECT_NE(text.find("2,10,29000000,10000,#FALSE#,#FALSE#\r\n12,12,0,120\r\n"),
+              std::string::npos)
+        << text;
+}
+
+TEST_F(CliTest, ReportPrintsEverySectionAndThePointAsTyped) {
+    const auto outcome = run({"report", simple_beam(), "--title", "Shop beam", "--point", "5",
+                              "--sig-figs", "4"});
+    ASSERT_EQ(outcome.code, kExitSuccess) << outcome.err;
+    for (const char* expected :
+         {"    Shop beam\n", "    BEAM PROPERTIES\n", "    LOAD CONFIGURATION\n",
+          "        Simple support; 0 ft., Reaction=500 lb.\n", "    MAXIMUM VALUES\n",
+          "    VALUES AT A POINT (X=5 ft.)\n", "        Bending Moment=2500 lb.-ft.\n"}) {
+        EXPECT_NE(outcome.out.find(expected), std::string::npos) << expected << outcome.out;
+    }
+    const auto inches = run({"report", simple_beam(), "--point", "60", "--unit", "in",
+                             "--no-reactions"});
+    ASSERT_EQ(inches.code, kExitSuccess) << inches.err;
+    EXPECT_NE(inches.out.find("    VALUES AT A POINT (X=60 in.)\n"), std::string::npos);
+    EXPECT_NE(inches.out.find("        Simple support; 0 ft.\n"), std::string::npos);
+}
+
+// The installed program itself: exit codes reach the shell and messages go to stderr.
+TEST_F(CliTest, ProgramReportsThroughExitCodeAndStandardError) {
+    const std::string err_file = (dir_ / "err.txt").string();
+    auto exit_code = [&](const std::string& arguments) {
+        const int status =
+            std::system((std::string(FLEXLEY_CLI_PATH) + " " + arguments + " >/dev/null 2>" +
+                         err_file).c_str());
+        return WEXITSTATUS(status);
+    };
+    EXPECT_EQ(exit_code("analyze " + (dir_ / "missing.lod").string()), kExitFileError);
+    EXPECT_EQ(read_file(err_file), "File access error\n");
+    EXPECT_EQ(exit_code("frobnicate"), kExitUsage);
+    EXPECT_EQ(exit_code("analyze " + simple_beam()), kExitSuccess);
+}
+
+TEST(CliExamples, EveryExampleAnalyses) {
+    int examples = 0;
+    for (const auto& entry : fs::directory_iterator(FLEXLEY_EXAMPLES_DIR)) {
+        if (entry.path().extension() != ".lod") continue;
+        ++examples;
+        const auto outcome = run({"analyze", entry.path().string(), "--json"});
+        EXPECT_EQ(outcome.code, kExitSuccess) << entry.path() << outcome.err;
+        const auto json = nlohmann::json::parse(outcome.out);
+        EXPECT_FALSE(json["reactions"].empty()) << entry.path();
+    }
+    EXPECT_GE(examples, 5);
+}
+
+}  // namespace
+}  // namespace flexley::cli
