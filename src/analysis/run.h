@@ -21,10 +21,16 @@ inline constexpr const char* kMissingProperties =
 inline constexpr const char* kUnstableBeam = "Beam is unstable.  Add more support.";
 inline constexpr const char* kNoSupport = "Add support to beam before calculating reactions.";
 inline constexpr const char* kSingularMatrix = "Singular matrix in routine LU_decomp.";
+// The result arrays hold 200,001 points and the reaction system two fixed supports, so the
+// engine refuses to run outside those limits whatever the model says.
+inline constexpr const char* kResolutionOutOfRange = "Resolution must be between 10 and 200,000.";
+inline constexpr const char* kTooManyCantilevers =
+    "Cantilever supports may only be placed at the ends of the beam.";
 
 // "Calculate Stress and Deflection": reactions, moment, stress, slope and deflection.
 // A failed precondition or a singular reaction system returns its message; results_valid is set
-// only by a completed run. Allocates nothing on success.
+// only by a completed run. Allocates nothing on success. The reaction texts are made afterwards
+// by the caller (reaction_text.h), so that the run itself needs no strings.
 Status run_calculation(BeamModel& model, const ContinueQuestion& continue_iterating);
 
 // "Calculate Support Reactions Only": no beam-property check, no moments or stresses; the
