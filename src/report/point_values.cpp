@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "model/limits.h"
 #include "model/units.h"
 #include "report/unit_choice.h"
 
@@ -58,7 +59,9 @@ std::optional<double> position_on_beam(const BeamModel& model, std::string_view 
 int nearest_point(const BeamModel& model, double position) {
     const double n = model.resolution;
     const double k = round_half_even(n * position / model.beam_length);
-    return static_cast<int>(std::clamp(k, 0.0, std::trunc(n)));
+    // The index must stay within the last run's grid and the result arrays, whatever it is given.
+    if (!(k > 0.0)) return 0;
+    return static_cast<int>(std::min({k, std::trunc(n), double{kResultPoints - 1}}));
 }
 
 PointValueTexts point_value_texts(const BeamModel& model, double position) {

@@ -104,7 +104,8 @@ INSTANTIATE_TEST_SUITE_P(TenMetreBeamOfTenIntervals, NearestPoint,
                                            NearestCase{"JustAboveHalf", 0.51, 1},
                                            NearestCase{"JustBelowHalf", 3.49, 3},
                                            NearestCase{"RightEnd", 10.0, 10},
-                                           NearestCase{"OffTheBeamGivesTheEnd", 11.0, 10}),
+                                           NearestCase{"OffTheBeamGivesTheEnd", 11.0, 10},
+                                           NearestCase{"BeforeTheBeamGivesTheStart", -1.0, 0}),
                          [](const auto& info) { return info.param.name; });
 
 TEST(PointValues, UnitsFollowEachValueAtTheNearestPoint) {
