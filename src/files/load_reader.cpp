@@ -66,8 +66,8 @@ class LoadReader {
 
   private:
     bool read_counts() {
-        // Drawn counters above their count would leave entries without labels; below it, a
-        // redraw would label entries a second time.
+        // A drawn counter above its count would deny labels to the next features added; below
+        // it, the next redraw would label entries a second time.
         return open_line() && read_count(m_.pt_count, kMaxPointLoads) &&
                read_count(m_.di_count, kMaxDistributedLoads) &&
                read_count(m_.mo_count, kMaxMoments) && read_count(m_.su_count, kMaxSupports) &&

@@ -20,18 +20,16 @@ std::string names(const std::vector<SectionRecord>& records) {
     return text;
 }
 
+std::string fields(const SectionRecord& r) {
+    return r.name + "|" + r.i_xx + "|" + r.c_xx + "|" + r.i_yy + "|" + r.c_yy + "|" + r.unit_flag;
+}
+
 TEST(BeamDefinitions, ReadsTheDocumentedExample) {
     const BeamDefinitions defs = parse_beam_definitions(
         "Enter beams below, one per line, name first.\r\nW BEAMS\r\n"
         "W36 X 300, 100, 10, 50, 5, E\r\n\"\"\r\n");
     ASSERT_EQ(defs.sections[kWide].size(), 1u);
-    const SectionRecord& record = defs.sections[kWide][0];
-    EXPECT_EQ(record.name, "W36 X 300");
-    EXPECT_EQ(record.i_xx, "100");
-    EXPECT_EQ(record.c_xx, "10");
-    EXPECT_EQ(record.i_yy, "50");
-    EXPECT_EQ(record.c_yy, "5");
-    EXPECT_EQ(record.unit_flag, "E");
+    EXPECT_EQ(fields(defs.sections[kWide][0]), "W36 X 300|100|10|50|5|E");
     for (int k = 1; k < kSectionKindCount; ++k)
         EXPECT_TRUE(defs.sections[k].empty());
 }
@@ -96,11 +94,7 @@ TEST(BeamDefinitions, UnquotedFieldsLoseSurroundingSpaces) {
     const BeamDefinitions defs =
         parse_beam_definitions("ANGLE\n L8 X 6 X 1 , 1.5 ,\"2\", 3,4 , M \n");
     ASSERT_EQ(defs.sections[3].size(), 1u);
-    const SectionRecord& record = defs.sections[3][0];
-    EXPECT_EQ(record.name, "L8 X 6 X 1");
-    EXPECT_EQ(record.i_xx, "1.5");
-    EXPECT_EQ(record.c_xx, "2");
-    EXPECT_EQ(record.unit_flag, "M");
+    EXPECT_EQ(fields(defs.sections[3][0]), "L8 X 6 X 1|1.5|2|3|4|M");
 }
 
 TEST(BeamDefinitions, KeepsFiveHundredRecordsPerSection) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <random>
 #include <string>
@@ -38,66 +39,57 @@ std::string outcome_problem(const LoadResult& result, const BeamModel& model) {
     return validity_problem(model);
 }
 
+// The text's lines with their line ends; the last entry holds what follows the last line end.
 std::vector<std::string> split_lines(const std::string& text) {
-    std::vector<std::string> lines;
-    std::size_t start = 0;
-    while (start < text.size()) {
-        const std::size_t end = text.find('\n', start);
-        if (end == std::string::npos) {
-            lines.push_back(text.substr(start));
-            break;
-        }
-        lines.push_back(text.substr(start, end - start + 1));
-        start = end + 1;
+    std::vector<std::string> lines{""};
+    for (char c : text) {
+        lines.back() += c;
+        if (c == '\n') lines.emplace_back();
     }
     return lines;
 }
 
-std::string join(const std::vector<std::string>& lines) {
-    std::string text;
-    for (const std::string& line : lines)
-        text += line;
-    return text;
-}
-
-// Replaces one comma-separated field of a random line with a hostile text.
-std::string replace_field(const std::string& text, std::mt19937& random) {
-    static const std::vector<std::string> hostile{
+// Replaces one comma-separated field of the line with a hostile text.
+void replace_field(std::string& line, std::mt19937& random) {
+    static const char* const hostile[] = {
         "1E+308", "1E+309", "-1E+400", "1E-400", "nan", "NaN",        "inf",     "-Infinity",
         "-5",     "-1",     "32768",   "65537",  "171", "9999999999", "\"nan\"", "\"1E+999\"",
         "",       "\"\"",   "0",       "200001", "9.5", "\"pt999\"",  "\"su0\"", "#TRUE#"};
-    std::vector<std::string> lines = split_lines(text);
-    std::string& line = lines[random() % lines.size()];
-    std::vector<std::size_t> commas{0};
+    std::vector<std::size_t> starts{0};
     for (std::size_t i = 0; i < line.size(); ++i) {
-        if (line[i] == ',') commas.push_back(i + 1);
+        if (line[i] == ',') starts.push_back(i + 1);
     }
-    const std::size_t start = commas[random() % commas.size()];
+    const std::size_t start = starts[random() % starts.size()];
     const std::size_t end = std::min(line.find_first_of(",\r\n", start), line.size());
-    line.replace(start, end - start, hostile[random() % hostile.size()]);
-    return join(lines);
+    line.replace(start, end - start, hostile[random() % std::size(hostile)]);
 }
 
-std::string mutate(std::string text, std::mt19937& random) {
+std::string mutate(const std::string& text, std::mt19937& random) {
     std::vector<std::string> lines = split_lines(text);
+    const std::size_t pick = random() % lines.size();
     switch (random() % 5) {
-        case 0:
-            text[random() % text.size()] = static_cast<char>(random() % 256);
-            return text;
-        case 1:
-            lines.erase(lines.begin() + random() % lines.size());
-            return join(lines);
-        case 2: {
-            const std::size_t line = random() % lines.size();
-            lines.insert(lines.begin() + line, lines[line]);
-            return join(lines);
+        case 0: {
+            std::string flipped = text;
+            flipped[random() % flipped.size()] = static_cast<char>(random() % 256);
+            return flipped;
         }
+        case 1:
+            lines.erase(lines.begin() + pick);
+            break;
+        case 2:
+            lines.insert(lines.begin() + pick, lines[pick]);
+            break;
         case 3:
-            std::swap(lines[random() % lines.size()], lines[random() % lines.size()]);
-            return join(lines);
+            std::swap(lines[pick], lines[random() % lines.size()]);
+            break;
         default:
-            return replace_field(text, random);
+            replace_field(lines[pick], random);
+            break;
     }
+    std::string mutated;
+    for (const std::string& line : lines)
+        mutated += line;
+    return mutated;
 }
 
 TEST(LoadReaderRobustness, EveryTruncationIsReadOrRefusedCleanly) {

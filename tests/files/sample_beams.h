@@ -19,9 +19,6 @@ std::unique_ptr<BeamModel> metric_beam();
 // A version 1 file: English, one uniform distributed load, a removed point load.
 extern const char* const kVersion1Text;
 
-// Empty when every field the file holds is equal in both models, else the first difference.
-std::string file_fields_difference(const BeamModel& a, const BeamModel& b);
-
 // Empty when the model is usable after a successful read: counts within their tables, every
 // feature-list entry naming an entry of its table, every stored number finite and in range.
 std::string validity_problem(const BeamModel& model);
