@@ -5,7 +5,6 @@
 #include <cmath>
 #include <vector>
 
-#include "files/load_file.h"
 #include "model/features.h"
 #include "model/limits.h"
 
@@ -143,12 +142,14 @@ std::string validity_problem(const BeamModel& m) {
 }
 
 std::string cleared_problem(const BeamModel& m) {
-    // What clear_beam leaves, as the file would show it; the length and unit flags stay as read.
-    BeamModel cleared;
-    cleared.beam_length = m.beam_length;
-    cleared.positions_in_inches = m.positions_in_inches;
-    cleared.metric_units = m.metric_units;
-    if (load_configuration_text(m) != load_configuration_text(cleared)) return "beam not cleared";
+    const bool counts = m.pt_count == 0 && m.di_count == 0 && m.mo_count == 0 && m.su_count == 0 &&
+                        m.feature_count == 0 && m.pt_drawn == 0 && m.di_drawn == 0 &&
+                        m.mo_drawn == 0 && m.su_drawn == 0;
+    const bool scales = m.pt_maxmag == 0 && m.pt_scalemag == 0 && m.mo_maxmag == 0 &&
+                        m.mo_scalemag == 0 && m.di_maxmag == 0 && m.di_scalemag == 0;
+    const bool settings = m.resolution == kDefaultResolution && m.moment_of_inertia == 0 &&
+                          m.elastic_modulus == 0 && m.fibre_distance == 0;
+    if (!counts || !scales || !settings) return "beam not cleared";
     for (int n = 1; n <= kMaxFeatures; ++n) {
         if (!m.feature_list[n].empty() || !m.loc_unit[n].empty() || !m.mag_unit[n].empty()) {
             return "feature list not cleared";
