@@ -39,7 +39,7 @@ const std::map<std::string, std::vector<std::string>>& allowed_options() {
 }
 
 class Parser {
-public:
+  public:
     explicit Parser(const std::vector<std::string>& arguments) : arguments_(arguments) {}
 
     std::variant<CliOptions, UsageError> parse() {
@@ -72,7 +72,7 @@ public:
         return options_;
     }
 
-private:
+  private:
     static bool is_allowed(const std::vector<std::string>& allowed, const std::string& option) {
         for (const auto& name : allowed) {
             if (name == option) return true;

@@ -2,12 +2,12 @@
 #include "cli/results_output.h"
 
 #include <charconv>
+#include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
-#include <nlohmann/json.hpp>
 
 #include "analysis/grid.h"
-#include "analysis/reaction_texts.h"
+#include "analysis/reaction_text.h"
 #include "model/display.h"
 #include "model/features.h"
 #include "report/maximum_values.h"
@@ -84,8 +84,9 @@ void print_summary(const BeamModel& model, std::ostream& out) {
         const auto feature = lookup_feature(model, reaction.feature_number);
         const int index = feature ? feature->index : 0;
         out << "  Feature " << reaction.feature_number << ", "
-            << (model.su_type[index] == "cant" ? "cantilever" : "simple") << " support at x="
-            << position_text(model, model.su_loc[index]) << ": " << reaction.text << "\n";
+            << (model.su_type[index] == "cant" ? "cantilever" : "simple")
+            << " support at x=" << position_text(model, model.su_loc[index]) << ": "
+            << reaction.text << "\n";
     }
     const auto maxima = maximum_value_texts(model);
     out << "\nMaximum values\n"

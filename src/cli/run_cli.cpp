@@ -92,11 +92,10 @@ int convert(const CliOptions& options, BeamModel& model, std::ostream& out, std:
 }
 
 int report(const CliOptions& options, BeamModel& model, std::ostream& out, std::ostream& err) {
-    ReportOptions report{.title = options.title,
-                         .beam_properties = true,
-                         .load_text = true,
-                         .support_reactions = options.reactions,
-                         .maximum_values = true};
+    ReportOptions report;
+    report.title = options.title;
+    report.beam_properties = report.load_text = report.maximum_values = true;
+    report.support_reactions = options.reactions;
     if (options.point_in_inches && model.metric_units) {
         err << "--unit applies to English beams only: positions on a metric beam are metres\n";
         return kExitUsage;
@@ -114,7 +113,8 @@ int report(const CliOptions& options, BeamModel& model, std::ostream& out, std::
     }
     model.sig_figs = static_cast<int16_t>(options.sig_figs);
     if (!analyse(model, err)) return kExitRefused;
-    for (const auto& line : report_lines(model, report, today_short_date())) out << line << "\n";
+    for (const auto& line : report_lines(model, report, today_short_date()))
+        out << line << "\n";
     return kExitSuccess;
 }
 
@@ -122,10 +122,14 @@ int run_command(const CliOptions& options, std::ostream& out, std::ostream& err)
     BeamModel model;
     if (!load_beam(options, model, err)) return kExitFileError;
     switch (options.command) {
-        case Command::analyze: return analyze(options, model, out, err);
-        case Command::table: return table(model, out, err);
-        case Command::convert: return convert(options, model, out, err);
-        case Command::report: return report(options, model, out, err);
+        case Command::analyze:
+            return analyze(options, model, out, err);
+        case Command::table:
+            return table(model, out, err);
+        case Command::convert:
+            return convert(options, model, out, err);
+        case Command::report:
+            return report(options, model, out, err);
     }
     return kExitUsage;
 }

@@ -35,7 +35,7 @@ std::string read_file(const fs::path& path) {
 }
 
 class CliTest : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override {
         std::string pattern = (fs::temp_directory_path() / "flexley-cli-XXXXXX").string();
         ASSERT_NE(mkdtemp(pattern.data()), nullptr);
@@ -56,7 +56,7 @@ protected:
         EXPECT_TRUE(add_point_load(model, 1000, 60, "ft", "lb").ok());
         EXPECT_TRUE(add_support(model, 0, "simp", "ft", "lb").ok());
         EXPECT_TRUE(add_support(model, 120, "simp", "ft", "lb").ok());
-        return save(model, "simple.lod");
+        return save(model, with_properties ? "simple.lod" : "no-properties.lod");
     }
 
     // A 100 in. cantilever fixed at the left end with 10 lb/in over its whole length.
@@ -120,9 +120,11 @@ TEST_F(CliTest, FileAndPreconditionFailuresHaveTheirOwnExitCodes) {
         {{"analyze", missing}, kExitFileError, "File access error\n"},
         {{"table", dir_.string()}, kExitFileError, "File access error\n"},
         {{"report", missing}, kExitFileError, "File access error\n"},
-        {{"analyze", no_properties}, kExitRefused,
+        {{"analyze", no_properties},
+         kExitRefused,
          "Enter beam properties before calculating deflection.\n"},
-        {{"report", no_properties}, kExitRefused,
+        {{"report", no_properties},
+         kExitRefused,
          "Enter beam properties before calculating deflection.\n"},
         {{"analyze", simple_beam(), "--at", "121"}, kExitUsage, "Invalid location.\n"},
         {{"report", simple_beam(), "--point", "10.5"}, kExitUsage, "Invalid location.\n"},
@@ -131,7 +133,9 @@ TEST_F(CliTest, FileAndPreconditionFailuresHaveTheirOwnExitCodes) {
     for (const auto& c : cases) {
         const auto outcome = run(c.arguments);
         EXPECT_EQ(outcome.code, c.code) << ::testing::PrintToString(c.arguments);
-        if (!c.err.empty()) EXPECT_EQ(outcome.err, c.err);
+        if (!c.err.empty()) {
+            EXPECT_EQ(outcome.err, c.err);
+        }
     }
 }
 
@@ -160,8 +164,8 @@ TEST_F(CliTest, JsonGivesReactionsMaximaAndPointsInBaseUnits) {
     EXPECT_NEAR(json["max"]["stress"]["value"].get<double>(), 30000.0 * 4 / 100, 1e-6);
     EXPECT_NEAR(json["max"]["deflection"]["value"].get<double>(), centre_deflection,
                 1e-4 * std::fabs(centre_deflection));
-    EXPECT_NEAR(json["max"]["slope"]["value"].get<double>(),
-                1000.0 * 120 * 120 / (16 * ei), 1e-3 * 1000.0 * 120 * 120 / (16 * ei));
+    EXPECT_NEAR(json["max"]["slope"]["value"].get<double>(), 1000.0 * 120 * 120 / (16 * ei),
+                1e-3 * 1000.0 * 120 * 120 / (16 * ei));
 
     ASSERT_EQ(json["at"].size(), 2u);
     EXPECT_EQ(json["at"][0]["x"], 60.0);
@@ -199,7 +203,8 @@ TEST_F(CliTest, TableHasOneLinePerGridPoint) {
     std::getline(lines, line);
     EXPECT_EQ(line, "x,moment,stress,slope,deflection");
     std::vector<std::string> rows;
-    while (std::getline(lines, line)) rows.push_back(line);
+    while (std::getline(lines, line))
+        rows.push_back(line);
     ASSERT_EQ(rows.size(), 11u);
     EXPECT_EQ(rows[5].substr(0, 9), "60,30000,");
     EXPECT_EQ(rows[10].substr(0, 6), "120,0,");
@@ -234,8 +239,8 @@ TEST_F(CliTest, ConvertMigratesAVersion1File) {
 }
 
 TEST_F(CliTest, ReportPrintsEverySectionAndThePointAsTyped) {
-    const auto outcome = run({"report", simple_beam(), "--title", "Shop beam", "--point", "5",
-                              "--sig-figs", "4"});
+    const auto outcome =
+        run({"report", simple_beam(), "--title", "Shop beam", "--point", "5", "--sig-figs", "4"});
     ASSERT_EQ(outcome.code, kExitSuccess) << outcome.err;
     for (const char* expected :
          {"    Shop beam\n", "    BEAM PROPERTIES\n", "    LOAD CONFIGURATION\n",
@@ -243,8 +248,8 @@ TEST_F(CliTest, ReportPrintsEverySectionAndThePointAsTyped) {
           "    VALUES AT A POINT (X=5 ft.)\n", "        Bending Moment=2500 lb.-ft.\n"}) {
         EXPECT_NE(outcome.out.find(expected), std::string::npos) << expected << outcome.out;
     }
-    const auto inches = run({"report", simple_beam(), "--point", "60", "--unit", "in",
-                             "--no-reactions"});
+    const auto inches =
+        run({"report", simple_beam(), "--point", "60", "--unit", "in", "--no-reactions"});
     ASSERT_EQ(inches.code, kExitSuccess) << inches.err;
     EXPECT_NE(inches.out.find("    VALUES AT A POINT (X=60 in.)\n"), std::string::npos);
     EXPECT_NE(inches.out.find("        Simple support; 0 ft.\n"), std::string::npos);
@@ -254,9 +259,9 @@ TEST_F(CliTest, ReportPrintsEverySectionAndThePointAsTyped) {
 TEST_F(CliTest, ProgramReportsThroughExitCodeAndStandardError) {
     const std::string err_file = (dir_ / "err.txt").string();
     auto exit_code = [&](const std::string& arguments) {
-        const int status =
-            std::system((std::string(FLEXLEY_CLI_PATH) + " " + arguments + " >/dev/null 2>" +
-                         err_file).c_str());
+        const int status = std::system(
+            (std::string(FLEXLEY_CLI_PATH) + " " + arguments + " >/dev/null 2>" + err_file)
+                .c_str());
         return WEXITSTATUS(status);
     };
     EXPECT_EQ(exit_code("analyze " + (dir_ / "missing.lod").string()), kExitFileError);
