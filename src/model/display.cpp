@@ -2,6 +2,7 @@
 #include "model/display.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -16,10 +17,13 @@ struct Decimal {
     int exponent = 0;
 };
 
+// to_chars, unlike printf, ignores the locale: a file must never get a decimal comma.
 Decimal to_decimal(double magnitude, int digits) {
     char buffer[64];
-    std::snprintf(buffer, sizeof buffer, "%.*e", digits - 1, magnitude);
-    const std::string text(buffer);
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, magnitude,
+                                   std::chars_format::scientific, digits - 1)
+                         .ptr;
+    const std::string text(buffer, end);
     const auto e = text.find('e');
     Decimal decimal;
     for (std::size_t i = 0; i < e; ++i) {
@@ -96,7 +100,9 @@ double sig_round(double value, int sig_figs) {
     if (!std::isfinite(value) || value == 0.0) return value;
     // The value's own 15-digit text is what gets rounded, so a tie is a tie in decimal.
     const Decimal rounded = round_digits(to_decimal(std::fabs(value), 15), std::max(sig_figs, 1));
-    const double magnitude = std::strtod(exponent_form(rounded).c_str(), nullptr);
+    const std::string text = exponent_form(rounded);
+    double magnitude = 0.0;
+    std::from_chars(text.data(), text.data() + text.size(), magnitude);
     return value < 0 ? -magnitude : magnitude;
 }
 
