@@ -21,11 +21,11 @@ enum class CrossSection { round, rectangular };
 // The calculator's dimension boxes in the beam properties dialog's display units (inches or
 // millimetres). An empty box, or one whose text is not a number, holds nothing.
 struct SectionDimensions {
-    std::optional<double> outer_diameter;
-    std::optional<double> inner_diameter;  // round tubes only
-    std::optional<double> height;          // bending acts in the direction of the height
-    std::optional<double> width;
-    std::optional<double> wall;  // rectangular tubes only
+    std::optional<double> outer_diameter = std::nullopt;
+    std::optional<double> inner_diameter = std::nullopt;  // round tubes only
+    std::optional<double> height = std::nullopt;  // bending acts in the direction of the height
+    std::optional<double> width = std::nullopt;
+    std::optional<double> wall = std::nullopt;  // rectangular tubes only
 };
 
 struct SectionProperties {
