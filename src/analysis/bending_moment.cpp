@@ -137,8 +137,9 @@ void add_term(const BeamModel& model, const Term& term, double x0, Cubic& cubic)
 
 Cubic build_cubic(const BeamModel& model, const TermList& list, int active, double x0) {
     Cubic cubic;
-    for (int i = 0; i < active; ++i)
+    for (int i = 0; i < active; ++i) {
         add_term(model, list.terms[i], x0, cubic);
+    }
     // The moment reaction of the fixed support at the left end acts everywhere, x = 0 included.
     if (model.cantilever_count > 0) cubic.c0 -= model.reaction[1];
     return cubic;

@@ -14,8 +14,9 @@ double past(double u) {
 
 double power(double u, int k) {
     double result = 1.0;
-    for (int i = 0; i < k; ++i)
+    for (int i = 0; i < k; ++i) {
         result *= u;
+    }
     return result;
 }
 
@@ -23,8 +24,9 @@ double power(double u, int k) {
 
 double total_load(const BeamModel& model) {
     double total = 0.0;
-    for (int k = 1; k <= used_entries(model.pt_count, kMaxPointLoads); ++k)
+    for (int k = 1; k <= used_entries(model.pt_count, kMaxPointLoads); ++k) {
         total += model.pt_mag[k];
+    }
     for (int k = 1; k <= used_entries(model.di_count, kMaxDistributedLoads); ++k) {
         total += (model.di_mag_start[k] + model.di_mag_end[k]) *
                  (model.di_end[k] - model.di_start[k]) / 2.0;
@@ -45,8 +47,9 @@ double load_moment_about(const BeamModel& model, double x1) {
         // The integral of w(t) (t - x1) over a..b, written without the gradient (w2 - w1) / d.
         moment += d * d * (w1 + 2.0 * w2) / 6.0 + (a - x1) * d * (w1 + w2) / 2.0;
     }
-    for (int k = 1; k <= used_entries(model.mo_count, kMaxMoments); ++k)
+    for (int k = 1; k <= used_entries(model.mo_count, kMaxMoments); ++k) {
         moment -= model.mo_mag[k];
+    }
     return moment;
 }
 

@@ -28,16 +28,18 @@ int reduce_column(ReactionSystem& system, int j) {
     auto& a = system.a;
     for (int i = 1; i < j; ++i) {
         double sum = a[i][j];
-        for (int k = 1; k < i; ++k)
+        for (int k = 1; k < i; ++k) {
             sum -= a[i][k] * a[k][j];
+        }
         a[i][j] = sum;
     }
     double big = 0.0;
     int imax = j;
     for (int i = j; i <= system.order; ++i) {
         double sum = a[i][j];
-        for (int k = 1; k < j; ++k)
+        for (int k = 1; k < j; ++k) {
             sum -= a[i][k] * a[k][j];
+        }
         a[i][j] = sum;
         const double merit = system.scale[i] * std::abs(sum);
         if (merit >= big) {
@@ -57,15 +59,17 @@ Status lu_decompose(ReactionSystem& system) {
     for (int j = 1; j <= q; ++j) {
         const int imax = reduce_column(system, j);
         if (imax != j) {
-            for (int k = 1; k <= q; ++k)
+            for (int k = 1; k <= q; ++k) {
                 std::swap(a[imax][k], a[j][k]);
+            }
             system.scale[imax] = system.scale[j];
         }
         system.pivot[j] = imax;
         // An exact zero only: a tiny pivot is kept, so a nearly singular beam still gives numbers.
         if (a[j][j] == 0.0) return Status::failure(kSingularMatrix);
-        for (int i = j + 1; i <= q; ++i)
+        for (int i = j + 1; i <= q; ++i) {
             a[i][j] /= a[j][j];
+        }
     }
     return Status::success();
 }
@@ -77,14 +81,16 @@ void lu_solve(const ReactionSystem& system, Table<double, kMaxUnknowns>& b) {
         const int p = system.pivot[i];
         double sum = b[p];
         b[p] = b[i];
-        for (int k = 1; k < i; ++k)
+        for (int k = 1; k < i; ++k) {
             sum -= a[i][k] * b[k];
+        }
         b[i] = sum;
     }
     for (int i = q; i >= 1; --i) {
         double sum = b[i];
-        for (int k = i + 1; k <= q; ++k)
+        for (int k = i + 1; k <= q; ++k) {
             sum -= a[i][k] * b[k];
+        }
         b[i] = sum / a[i][i];
     }
 }

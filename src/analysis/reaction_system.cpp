@@ -51,8 +51,9 @@ void assemble_one_cantilever(const BeamModel& model, ReactionSystem& system) {
     for (int r = 3; r <= n + 1; ++r) {
         const int s = r - 1;
         system.a[r][1] = -x[s] * x[s] / 2.0;
-        for (int k = 1; k <= n; ++k)
+        for (int k = 1; k <= n; ++k) {
             system.a[r][k + 1] = cubic_past(x[s] - x[k]);
+        }
     }
 }
 
@@ -72,8 +73,9 @@ void assemble_two_cantilevers(const BeamModel& model, ReactionSystem& system) {
     for (int r = 4; r <= n + 2; ++r) {
         const int s = r - 2;
         system.a[r][1] = -x[s] * x[s] / 2.0;
-        for (int k = 1; k <= n; ++k)
+        for (int k = 1; k <= n; ++k) {
             system.a[r][k + 2] = cubic_past(x[s] - x[k]);
+        }
     }
 }
 
@@ -92,8 +94,9 @@ void assemble_right_hand_side(BeamModel& model, const Table<double, kMaxSupports
         return;
     }
     if (m == 2) b[3] = -load_slope_integral(model, model.beam_length);
-    for (int r = m + 2; r <= n + m; ++r)
+    for (int r = m + 2; r <= n + m; ++r) {
         b[r] = -f[r - m];
+    }
 }
 
 }  // namespace
@@ -112,8 +115,9 @@ void collect_supports(BeamModel& model) {
         if (model.su_type[k] == "cant") {
             ++m;
             if (m == 1) {
-                for (int i = n; i > 1; --i)
+                for (int i = n; i > 1; --i) {
                     swap_supports(model, i, i - 1);
+                }
             }
         } else if (m == 2) {
             swap_supports(model, n, n - 1);
@@ -127,12 +131,14 @@ void assemble_reaction_system(BeamModel& model, ReactionSystem& system) {
     const int n = model.reaction_count;
     const int m = model.cantilever_count;
     system.order = n + m;
-    for (auto& row : system.a)
+    for (auto& row : system.a) {
         row.fill(0.0);
+    }
 
     Table<double, kMaxSupports> f{};
-    for (int j = 1; j <= n; ++j)
+    for (int j = 1; j <= n; ++j) {
         f[j] = load_deflection_integral(model, model.reaction_pos[j]);
+    }
 
     if (m == 0) {
         assemble_simple(model, system);

@@ -60,8 +60,9 @@ TEST_P(ClosedFormTest, MatchesHandbookResults) {
     const int unknowns = model.reaction_count + model.cantilever_count;
     ASSERT_EQ(unknowns, static_cast<int>(c.reactions.size()));
     double largest = 0.0;
-    for (double r : c.reactions)
+    for (double r : c.reactions) {
         largest = std::max(largest, std::abs(r));
+    }
     for (int i = 1; i <= unknowns; ++i) {
         EXPECT_NEAR(model.reaction[i], c.reactions[i - 1], 1e-9 * largest) << "reaction " << i;
     }

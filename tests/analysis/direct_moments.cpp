@@ -40,8 +40,9 @@ std::vector<double> direct_moments(const BeamModel& model) {
     const double n = model.resolution;
     const double h = model.beam_length / n;
     std::vector<double> moments;
-    for (float i = 0.0f; i <= model.resolution; i += 1.0f)
+    for (float i = 0.0f; i <= model.resolution; i += 1.0f) {
         moments.push_back(moment_at(model, i * h));
+    }
     return moments;
 }
 

@@ -80,8 +80,9 @@ TEST(IntegrateFromCantilever, FixedSupportAtRightEndIntegratesBackwards) {
     ASSERT_TRUE(run_calculation(model, {}).ok());
     const double tip = model.deflection[10000];
     // The same beam seen from the other end: the moment array mirrored, fixed at L.
-    for (int i = 0; i <= 5000; ++i)
+    for (int i = 0; i <= 5000; ++i) {
         std::swap(model.moment[i], model.moment[10000 - i]);
+    }
     integrate_from_cantilever(model, kLength);
     EXPECT_EQ(model.deflection[10000], 0.0);
     EXPECT_EQ(model.slope[10000], 0.0);

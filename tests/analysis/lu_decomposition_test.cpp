@@ -14,16 +14,18 @@ ReactionSystem make_system(const std::vector<std::vector<double>>& rows) {
     ReactionSystem system;
     system.order = static_cast<int>(rows.size());
     for (int i = 1; i <= system.order; ++i) {
-        for (int j = 1; j <= system.order; ++j)
+        for (int j = 1; j <= system.order; ++j) {
             system.a[i][j] = rows[i - 1][j - 1];
+        }
     }
     return system;
 }
 
 Table<double, kMaxUnknowns> make_rhs(const std::vector<double>& values) {
     Table<double, kMaxUnknowns> b{};
-    for (std::size_t i = 0; i < values.size(); ++i)
+    for (std::size_t i = 0; i < values.size(); ++i) {
         b[i + 1] = values[i];
+    }
     return b;
 }
 
@@ -50,8 +52,9 @@ TEST_P(LuSolveTest, SolvesAndPivotsAsExpected) {
     }
     auto b = make_rhs(c.b);
     lu_solve(system, b);
-    for (std::size_t i = 0; i < c.x.size(); ++i)
+    for (std::size_t i = 0; i < c.x.size(); ++i) {
         EXPECT_NEAR(b[i + 1], c.x[i], 1e-12) << i + 1;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -1,4 +1,4 @@
-// The order of the active supports in the reaction system, and the assembled system itself.
+// The order of the active supports in the reaction system.
 #include "analysis/reaction_system.h"
 
 #include <gtest/gtest.h>
@@ -86,29 +86,6 @@ INSTANTIATE_TEST_SUITE_P(Supports, CollectSupportsTest,
                          [](const testing::TestParamInfo<OrderCase>& info) {
                              return info.param.name;
                          });
-
-// Three simple supports: the third row states zero deflection at support 3 relative to the line
-// through supports 1 and 2; with supports at 0, L and L/2 the coefficients follow by hand.
-TEST(AssembleReactionSystem, ThirdSupportRowOfContinuousBeam) {
-    BeamModel model = beam(2.0);
-    simple_support(model, 0.0);
-    simple_support(model, 2.0);
-    simple_support(model, 1.0);
-    point_load(model, 6.0, 0.5);
-    collect_supports(model);
-    ReactionSystem system;
-    assemble_reaction_system(model, system);
-    ASSERT_EQ(system.order, 3);
-    const double expected[3][3] = {{1.0, 1.0, 1.0}, {0.0, 2.0, 1.0}, {-0.5, 0.0, -1.0 / 12.0}};
-    for (int i = 1; i <= 3; ++i) {
-        for (int k = 1; k <= 3; ++k)
-            EXPECT_DOUBLE_EQ(system.a[i][k], expected[i - 1][k - 1]);
-    }
-    // F(x) = -6 <x - 0.5>^3 / 6: F(0) = 0, F(2) = -3.375, F(1) = -0.125; t = 0.5.
-    EXPECT_DOUBLE_EQ(model.reaction[1], 6.0);
-    EXPECT_DOUBLE_EQ(model.reaction[2], 3.0);
-    EXPECT_DOUBLE_EQ(model.reaction[3], 0.125 - 3.375 * 0.5);
-}
 
 }  // namespace
 }  // namespace flexley

@@ -3,11 +3,13 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "analysis/reaction_text.h"
 #include "model/features.h"
+#include "model/limits.h"
 #include "test_beams.h"
 
 namespace flexley {
@@ -33,14 +35,25 @@ Status run(Command command, BeamModel& model) {
 }
 
 struct RefusalCase {
-    std::string name;
+    const char* name;
     Command command;
-    std::function<void(BeamModel&)> build;
-    std::string message;
+    std::vector<std::pair<const char*, double>> supports;  // kind and position, features 2, 3...
+    std::vector<int> removed;                              // feature numbers
+    float resolution;
+    float BeamModel::*missing;  // a beam property left at 0, if any
+    const char* message;
 };
 
 void PrintTo(const RefusalCase& c, std::ostream* os) {
     *os << c.name;
+}
+
+using Supports = std::vector<std::pair<const char*, double>>;
+
+RefusalCase refusal(const char* name, Command command, Supports supports, std::vector<int> removed,
+                    float resolution, float BeamModel::*missing, const char* message) {
+    return RefusalCase{name,    command, std::move(supports), std::move(removed), resolution,
+                       missing, message};
 }
 
 class RefusalTest : public testing::TestWithParam<RefusalCase> {};
@@ -50,7 +63,14 @@ TEST_P(RefusalTest, RefusesWithMessage) {
     const RefusalCase& c = GetParam();
     BeamModel model = beam();
     point_load(model, 1000.0, 100.0);
-    c.build(model);
+    for (const auto& [kind, at] : c.supports) {
+        ASSERT_TRUE(add_support(model, at, kind, "in", "lb").ok());
+    }
+    for (int number : c.removed) {
+        ASSERT_TRUE(remove_feature(model, number).ok());
+    }
+    model.resolution = c.resolution;
+    if (c.missing) model.*c.missing = 0.0f;
     model.moment[0] = model.stress[0] = model.deflection[0] = kUntouched;
     EXPECT_EQ(run(c.command, model).message(), c.message);
     EXPECT_FALSE(model.results_valid);
@@ -59,96 +79,49 @@ TEST_P(RefusalTest, RefusesWithMessage) {
     EXPECT_EQ(model.deflection[0], kUntouched);
 }
 
-void two_supports(BeamModel& m) {
-    simple_support(m, 0.0);
-    simple_support(m, kLength);
-}
+constexpr auto kCalculation = Command::calculation;
+constexpr auto kReactionsOnly = Command::reactions_only;
+constexpr float kN = kDefaultResolution;
+const Supports kTwoSimple = {{"simp", 0.0}, {"simp", kLength}};
 
 INSTANTIATE_TEST_SUITE_P(
     Run, RefusalTest,
-    testing::Values(RefusalCase{"NoInertia", Command::calculation,
-                                [](BeamModel& m) {
-                                    two_supports(m);
-                                    m.moment_of_inertia = 0.0f;
-                                },
-                                kMissingProperties},
-                    RefusalCase{"NoModulus", Command::calculation,
-                                [](BeamModel& m) {
-                                    two_supports(m);
-                                    m.elastic_modulus = 0.0f;
-                                },
-                                kMissingProperties},
-                    RefusalCase{"NoFibreDistance", Command::calculation,
-                                [](BeamModel& m) {
-                                    two_supports(m);
-                                    m.fibre_distance = 0.0f;
-                                },
-                                kMissingProperties},
-                    RefusalCase{"PropertiesBeforeSupports", Command::calculation,
-                                [](BeamModel& m) { m.fibre_distance = 0.0f; }, kMissingProperties},
-                    RefusalCase{"NoSupport", Command::calculation, [](BeamModel&) {}, kNoSupport},
-                    RefusalCase{"NoSupportReactionsOnly", Command::reactions_only,
-                                [](BeamModel&) {}, kNoSupport},
-                    RefusalCase{"OnlyRemovedSupports", Command::calculation,
-                                [](BeamModel& m) {
-                                    two_supports(m);
-                                    ASSERT_TRUE(remove_feature(m, 2).ok());
-                                    ASSERT_TRUE(remove_feature(m, 3).ok());
-                                },
-                                kNoSupport},
-                    RefusalCase{"OneSimpleSupport", Command::calculation,
-                                [](BeamModel& m) { simple_support(m, 0.0); }, kUnstableBeam},
-                    RefusalCase{"OneSimpleSupportReactionsOnly", Command::reactions_only,
-                                [](BeamModel& m) { simple_support(m, 0.0); }, kUnstableBeam},
-                    RefusalCase{"SecondSupportRemoved", Command::calculation,
-                                [](BeamModel& m) {
-                                    two_supports(m);
-                                    ASSERT_TRUE(remove_feature(m, 3).ok());
-                                },
-                                kUnstableBeam},
-                    RefusalCase{"SupportsAtSamePosition", Command::calculation,
-                                [](BeamModel& m) {
-                                    simple_support(m, 60.0);
-                                    simple_support(m, 60.0);
-                                },
-                                kSingularMatrix},
-                    RefusalCase{"SupportsAtSamePositionReactionsOnly", Command::reactions_only,
-                                [](BeamModel& m) {
-                                    simple_support(m, 60.0);
-                                    simple_support(m, 60.0);
-                                },
-                                kSingularMatrix},
-                    RefusalCase{"ResolutionBelowRange", Command::calculation,
-                                [](BeamModel& m) {
-                                    two_supports(m);
-                                    m.resolution = 9.5f;
-                                },
-                                kResolutionOutOfRange},
-                    RefusalCase{"ResolutionAboveRangeReactionsOnly", Command::reactions_only,
-                                [](BeamModel& m) {
-                                    two_supports(m);
-                                    m.resolution = 200001.0f;
-                                },
-                                kResolutionOutOfRange},
-                    RefusalCase{"ResolutionAboveRangeRecalculation", Command::recalculation,
-                                [](BeamModel& m) {
-                                    two_supports(m);
-                                    m.resolution = 250000.0f;
-                                },
-                                kResolutionOutOfRange},
-                    RefusalCase{"ThirdCantilever", Command::calculation,
-                                [](BeamModel& m) {
-                                    fixed_support(m, 0.0);
-                                    fixed_support(m, kLength);
-                                    fixed_support(m, kLength);
-                                },
-                                kTooManyCantilevers}),
-    [](const testing::TestParamInfo<RefusalCase>& info) { return info.param.name; });
+    testing::Values(
+        refusal("NoInertia", kCalculation, kTwoSimple, {}, kN, &BeamModel::moment_of_inertia,
+                kMissingProperties),
+        refusal("NoModulus", kCalculation, kTwoSimple, {}, kN, &BeamModel::elastic_modulus,
+                kMissingProperties),
+        refusal("NoFibreDistance", kCalculation, kTwoSimple, {}, kN, &BeamModel::fibre_distance,
+                kMissingProperties),
+        refusal("PropertiesCheckedFirst", kCalculation, {}, {}, kN, &BeamModel::fibre_distance,
+                kMissingProperties),
+        refusal("NoSupport", kCalculation, {}, {}, kN, nullptr, kNoSupport),
+        refusal("NoSupportReactionsOnly", kReactionsOnly, {}, {}, kN, nullptr, kNoSupport),
+        refusal("OnlyRemovedSupports", kCalculation, kTwoSimple, {2, 3}, kN, nullptr, kNoSupport),
+        refusal("OneSimpleSupport", kCalculation, {{"simp", 0.0}}, {}, kN, nullptr, kUnstableBeam),
+        refusal("OneSimpleSupportReactionsOnly", kReactionsOnly, {{"simp", 0.0}}, {}, kN, nullptr,
+                kUnstableBeam),
+        refusal("SecondSupportRemoved", kCalculation, kTwoSimple, {3}, kN, nullptr, kUnstableBeam),
+        refusal("SupportsAtSamePosition", kCalculation, {{"simp", 60.0}, {"simp", 60.0}}, {}, kN,
+                nullptr, kSingularMatrix),
+        refusal("SupportsAtSamePositionReactionsOnly", kReactionsOnly,
+                {{"simp", 60.0}, {"simp", 60.0}}, {}, kN, nullptr, kSingularMatrix),
+        refusal("ResolutionBelowRange", kCalculation, kTwoSimple, {}, 9.5f, nullptr,
+                kResolutionOutOfRange),
+        refusal("ResolutionAboveRangeReactionsOnly", kReactionsOnly, kTwoSimple, {}, 200001.0f,
+                nullptr, kResolutionOutOfRange),
+        refusal("ResolutionAboveRangeRecalculation", Command::recalculation, kTwoSimple, {},
+                250000.0f, nullptr, kResolutionOutOfRange),
+        refusal("ThirdCantilever", kCalculation,
+                {{"cant", 0.0}, {"cant", kLength}, {"cant", kLength}}, {}, kN, nullptr,
+                kTooManyCantilevers)),
+    [](const testing::TestParamInfo<RefusalCase>& info) { return std::string(info.param.name); });
 
 TEST(RunReactionsOnly, RunsWithoutBeamPropertiesAndComputesNoMoments) {
     BeamModel model = beam();
     model.moment_of_inertia = 0.0f;
-    two_supports(model);
+    simple_support(model, 0.0);
+    simple_support(model, kLength);
     point_load(model, 1000.0, 60.0);
     model.moment[0] = model.stress[0] = kUntouched;
     ASSERT_EQ(run_calculation(model, {}).message(), kMissingProperties);
@@ -163,7 +136,8 @@ TEST(RunReactionsOnly, RunsWithoutBeamPropertiesAndComputesNoMoments) {
 
 TEST(Recalculate, LeavesResultsValidAsItWas) {
     BeamModel model = beam();
-    two_supports(model);
+    simple_support(model, 0.0);
+    simple_support(model, kLength);
     point_load(model, 1000.0, 60.0);
     ASSERT_TRUE(recalculate(model, {}).ok());
     EXPECT_FALSE(model.results_valid);
@@ -206,8 +180,9 @@ TEST(RunCalculation, RemovedFeaturesChangeNothing) {
     distributed_load(cluttered, 0.0, 100.0, 7.0, 1.0);
     couple(cluttered, 900.0, 10.0);
     build(cluttered);
-    for (int number = 1; number <= 4; ++number)
+    for (int number = 1; number <= 4; ++number) {
         ASSERT_TRUE(remove_feature(cluttered, number).ok());
+    }
 
     ASSERT_TRUE(run_calculation(clean, {}).ok());
     ASSERT_TRUE(run_calculation(cluttered, {}).ok());
@@ -220,8 +195,9 @@ TEST(RunCalculation, RemovedFeaturesChangeNothing) {
     EXPECT_EQ(cluttered.deflection, clean.deflection);
     const auto texts = show_reactions(cluttered);
     ASSERT_EQ(texts.size(), 3u);
-    for (const auto& text : texts)
+    for (const auto& text : texts) {
         EXPECT_NE(text.feature_number, 2);
+    }
 }
 
 }  // namespace
