@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,7 +16,7 @@ using namespace testing_beams;
 
 struct OrderCase {
     std::string name;
-    std::function<void(BeamModel&)> build;
+    std::string beam;
     std::vector<int> features;  // reaction_feature in system order
     int cantilevers;
 };
@@ -30,62 +29,30 @@ class CollectSupportsTest : public testing::TestWithParam<OrderCase> {};
 
 TEST_P(CollectSupportsTest, OrdersSupports) {
     const OrderCase& c = GetParam();
-    BeamModel model = beam();
-    c.build(model);
+    BeamModel model = beam(c.beam);
     collect_supports(model);
     ASSERT_EQ(model.reaction_count, static_cast<int>(c.features.size()));
     EXPECT_EQ(model.cantilever_count, c.cantilevers);
     for (int i = 1; i <= model.reaction_count; ++i) {
         const int feature = c.features[i - 1];
         EXPECT_EQ(model.reaction_feature[i], feature) << "system support " << i;
-        const auto ref = lookup_feature(model, feature);
-        ASSERT_TRUE(ref.has_value());
-        EXPECT_EQ(model.reaction_pos[i], model.su_loc[ref->index]) << "system support " << i;
+        const auto support = lookup_feature(model, feature);
+        ASSERT_TRUE(support.has_value());
+        EXPECT_EQ(model.reaction_pos[i], model.su_loc[support->index]) << "system support " << i;
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Supports, CollectSupportsTest,
-                         testing::Values(OrderCase{"SimpleOnlyInFeatureOrder",
-                                                   [](BeamModel& m) {
-                                                       simple_support(m, 200.0);
-                                                       point_load(m, 10.0, 5.0);
-                                                       simple_support(m, 0.0);
-                                                       simple_support(m, 100.0);
-                                                   },
-                                                   {1, 3, 4},
-                                                   0},
-                                         OrderCase{"FixedAddedAfterSimpleMovesToFront",
-                                                   [](BeamModel& m) {
-                                                       simple_support(m, kLength);
-                                                       simple_support(m, 120.0);
-                                                       fixed_support(m, 0.0);
-                                                   },
-                                                   {3, 1, 2},
-                                                   1},
-                                         OrderCase{"SimpleAddedAfterSecondFixedStaysBeforeIt",
-                                                   [](BeamModel& m) {
-                                                       fixed_support(m, 0.0);
-                                                       simple_support(m, 80.0);
-                                                       fixed_support(m, kLength);
-                                                       simple_support(m, 160.0);
-                                                       simple_support(m, 40.0);
-                                                   },
-                                                   {1, 2, 4, 5, 3},
-                                                   2},
-                                         OrderCase{"RemovedSupportsLeftOut",
-                                                   [](BeamModel& m) {
-                                                       simple_support(m, 0.0);
-                                                       simple_support(m, 50.0);
-                                                       fixed_support(m, 0.0);
-                                                       simple_support(m, kLength);
-                                                       ASSERT_TRUE(remove_feature(m, 2).ok());
-                                                       ASSERT_TRUE(remove_feature(m, 3).ok());
-                                                   },
-                                                   {1, 4},
-                                                   0}),
-                         [](const testing::TestParamInfo<OrderCase>& info) {
-                             return info.param.name;
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Supports, CollectSupportsTest,
+    testing::Values(
+        OrderCase{"SimpleOnlyInFeatureOrder", "simp@200 pt:10@5 simp@0 simp@100", {1, 3, 4}, 0},
+        OrderCase{"FixedAddedAfterSimpleMovesToFront", "simp@240 simp@120 cant@0", {3, 1, 2}, 1},
+        OrderCase{"SimpleAddedAfterSecondFixedStaysBeforeIt",
+                  "cant@0 simp@80 cant@240 simp@160 simp@40",
+                  {1, 2, 4, 5, 3},
+                  2},
+        OrderCase{"RemovedSupportsLeftOut", "simp@0 simp@50 cant@0 simp@240 rm:2 rm:3", {1, 4}, 0}),
+    [](const testing::TestParamInfo<OrderCase>& info) { return info.param.name; });
 
 }  // namespace
 }  // namespace flexley
