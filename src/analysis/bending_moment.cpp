@@ -36,8 +36,10 @@ struct TermList {
     std::array<Term, kMaxTerms> terms;
     int count = 0;
 
+    // A position that is not a number never compares as passed, so its term never acts; leaving
+    // it out also keeps the sort's ordering strict.
     void add(double at, bool inclusive, TermKind kind, int index) {
-        terms[count++] = Term{at, inclusive, kind, index};
+        if (!std::isnan(at)) terms[count++] = Term{at, inclusive, kind, index};
     }
 };
 
@@ -51,7 +53,7 @@ bool activates_before(const Term& left, const Term& right) {
     return left.inclusive && !right.inclusive;
 }
 
-// Terms that can never change the moment (removed loads) are left out.
+// Terms that cannot change the moment (removed loads, loads of zero length) are left out.
 TermList collect_terms(const BeamModel& model) {
     TermList list;
     for (int k = 1; k <= used_entries(model.pt_count, kMaxPointLoads); ++k) {
@@ -65,7 +67,7 @@ TermList collect_terms(const BeamModel& model) {
         }
         list.add(a, false, TermKind::load_start, k);
         // The end term only counts once the start is passed too.
-        list.add(std::max(a, b), false, TermKind::load_end, k);
+        list.add(b < a ? a : b, false, TermKind::load_end, k);
     }
     for (int k = 1; k <= used_entries(model.mo_count, kMaxMoments); ++k) {
         if (model.mo_mag[k] != 0.0) list.add(model.mo_loc[k], true, TermKind::couple, k);
@@ -157,8 +159,9 @@ void compute_moments(BeamModel& model) {
     for (int i = 0; i <= grid.last; ++i) {
         const double x = grid.x(i);
         int now_active = active;
-        while (now_active < list.count && is_active(list.terms[now_active], x))
+        while (now_active < list.count && is_active(list.terms[now_active], x)) {
             ++now_active;
+        }
         if (i == 0 || now_active != active) {
             active = now_active;
             x0 = x;
