@@ -27,8 +27,10 @@ BeamModel english_beam() {
 
 TEST(ConvertUnits, EnglishToMetricUsesTheTwoFactors) {
     BeamModel model = english_beam();
-    convert_units(model, "eng_to_met");
+    std::vector<int> pen_modes;
+    convert_units(model, "eng_to_met", [&](int mode) { pen_modes.push_back(mode); });
 
+    EXPECT_EQ(pen_modes, (std::vector<int>{kPenErase, kPenDraw}));
     EXPECT_TRUE(model.metric_units);
     EXPECT_DOUBLE_EQ(model.beam_length, 240 * 0.0254);
     EXPECT_DOUBLE_EQ(model.pt_mag[1], 1000 * 4.448222);
@@ -66,23 +68,18 @@ TEST(ConvertUnits, MetricToEnglishRewritesCodesByKind) {
     EXPECT_EQ(model.su_loc[1], -1.0);
 }
 
-TEST(ConvertUnits, SameDirectionTwiceOrUnknownDirectionChangesNothing) {
+// A second switch in the same direction, or an unknown one, converts nothing but still erases
+// and redraws the Loading Screen.
+TEST(ConvertUnits, ChangesNothingWhenAlreadyInThatSystem) {
     for (const char* direction : {"met_to_eng", "sideways"}) {
         BeamModel model = english_beam();
         const BeamModel before = model;
-        convert_units(model, direction);
-        EXPECT_EQ(model.beam_length, before.beam_length) << direction;
-        EXPECT_EQ(model.pt_mag, before.pt_mag) << direction;
-        EXPECT_EQ(model.mag_unit, before.mag_unit) << direction;
-    }
-}
-
-TEST(ConvertUnits, ErasesFirstAndDrawsLastEvenWhenNothingChanges) {
-    for (const char* direction : {"eng_to_met", "met_to_eng", ""}) {
-        BeamModel model = english_beam();
         std::vector<int> pen_modes;
         convert_units(model, direction, [&](int mode) { pen_modes.push_back(mode); });
         EXPECT_EQ(pen_modes, (std::vector<int>{kPenErase, kPenDraw})) << direction;
+        EXPECT_EQ(model.beam_length, before.beam_length) << direction;
+        EXPECT_EQ(model.pt_mag, before.pt_mag) << direction;
+        EXPECT_EQ(model.mag_unit, before.mag_unit) << direction;
     }
 }
 
