@@ -55,5 +55,13 @@ TEST(IntegrateBetweenSupports, SupportOrderAndCoincidentSupports) {
     EXPECT_TRUE(std::isfinite(model.max_deflection));
 }
 
+// On a grid of 10 intervals the support at 60 lies at index 2.5: it is held at the even index.
+TEST(IntegrateBetweenSupports, SupportHalfwayBetweenGridPointsTakesEvenIndex) {
+    BeamModel model = beam("N:10 simp@60 simp@180 di:10:10@0:240");
+    ASSERT_TRUE(run_calculation(model, {}).ok());
+    EXPECT_EQ(model.deflection[2], 0.0);
+    EXPECT_NE(model.deflection[3], 0.0);
+}
+
 }  // namespace
 }  // namespace flexley
