@@ -20,6 +20,39 @@ double power(double u, int k) {
     return result;
 }
 
+// <u>^n / n!, the n-th integral from 0 of a unit step at u = 0.
+double ramp(double u, int n) {
+    double factorial = 1.0;
+    for (int i = 2; i <= n; ++i) {
+        factorial *= i;
+    }
+    return power(past(u), n) / factorial;
+}
+
+// The moment of the loads alone integrated `times` times from 0 to x. A point load's moment is a
+// ramp of order 1, a couple's a step; a linearly varying load is two ramps of orders 2 and 3 from
+// its start, cancelled from its end on.
+double repeated_load_integral(const BeamModel& model, double x, int times) {
+    double total = 0.0;
+    for (int k = 1; k <= used_entries(model.pt_count, kMaxPointLoads); ++k) {
+        total -= model.pt_mag[k] * ramp(x - model.pt_loc[k], times + 1);
+    }
+    for (int k = 1; k <= used_entries(model.di_count, kMaxDistributedLoads); ++k) {
+        const double a = model.di_start[k];
+        const double b = model.di_end[k];
+        if (!has_extent(a, b)) continue;
+        const double w1 = model.di_mag_start[k];
+        const double s = (model.di_mag_end[k] - w1) / (b - a);
+        total += -w1 * ramp(x - a, times + 2) - s * ramp(x - a, times + 3) +
+                 w1 * ramp(x - b, times + 2) +
+                 s * (ramp(x - b, times + 3) + (b - a) * ramp(x - b, times + 2));
+    }
+    for (int k = 1; k <= used_entries(model.mo_count, kMaxMoments); ++k) {
+        total -= model.mo_mag[k] * ramp(x - model.mo_loc[k], times);
+    }
+    return total;
+}
+
 }  // namespace
 
 double total_load(const BeamModel& model) {
@@ -54,47 +87,11 @@ double load_moment_about(const BeamModel& model, double x1) {
 }
 
 double load_slope_integral(const BeamModel& model, double x) {
-    double s_total = 0.0;
-    for (int k = 1; k <= used_entries(model.pt_count, kMaxPointLoads); ++k) {
-        s_total -= model.pt_mag[k] * power(past(x - model.pt_loc[k]), 2) / 2.0;
-    }
-    for (int k = 1; k <= used_entries(model.di_count, kMaxDistributedLoads); ++k) {
-        const double a = model.di_start[k];
-        const double b = model.di_end[k];
-        if (!has_extent(a, b)) continue;
-        const double w1 = model.di_mag_start[k];
-        const double s = (model.di_mag_end[k] - w1) / (b - a);
-        const double u = past(x - a);
-        const double v = past(x - b);
-        s_total += -w1 * power(u, 3) / 6.0 - s * power(u, 4) / 24.0 + w1 * power(v, 3) / 6.0 +
-                   s * (power(v, 4) / 24.0 + (b - a) * power(v, 3) / 6.0);
-    }
-    for (int k = 1; k <= used_entries(model.mo_count, kMaxMoments); ++k) {
-        s_total -= model.mo_mag[k] * past(x - model.mo_loc[k]);
-    }
-    return s_total;
+    return repeated_load_integral(model, x, 1);
 }
 
 double load_deflection_integral(const BeamModel& model, double x) {
-    double f_total = 0.0;
-    for (int k = 1; k <= used_entries(model.pt_count, kMaxPointLoads); ++k) {
-        f_total -= model.pt_mag[k] * power(past(x - model.pt_loc[k]), 3) / 6.0;
-    }
-    for (int k = 1; k <= used_entries(model.di_count, kMaxDistributedLoads); ++k) {
-        const double a = model.di_start[k];
-        const double b = model.di_end[k];
-        if (!has_extent(a, b)) continue;
-        const double w1 = model.di_mag_start[k];
-        const double s = (model.di_mag_end[k] - w1) / (b - a);
-        const double u = past(x - a);
-        const double v = past(x - b);
-        f_total += -w1 * power(u, 4) / 24.0 - s * power(u, 5) / 120.0 + w1 * power(v, 4) / 24.0 +
-                   s * (power(v, 5) / 120.0 + (b - a) * power(v, 4) / 24.0);
-    }
-    for (int k = 1; k <= used_entries(model.mo_count, kMaxMoments); ++k) {
-        f_total -= model.mo_mag[k] * power(past(x - model.mo_loc[k]), 2) / 2.0;
-    }
-    return f_total;
+    return repeated_load_integral(model, x, 2);
 }
 
 }  // namespace flexley
