@@ -27,20 +27,6 @@ bool is_one_of(std::string_view text, const std::array<std::string_view, N>& all
     return std::find(allowed.begin(), allowed.end(), text) != allowed.end();
 }
 
-int table_count(const BeamModel& model, FeatureKind kind) {
-    switch (kind) {
-        case FeatureKind::point_load:
-            return model.pt_count;
-        case FeatureKind::distributed_load:
-            return model.di_count;
-        case FeatureKind::moment:
-            return model.mo_count;
-        case FeatureKind::support:
-            return model.su_count;
-    }
-    return 0;
-}
-
 // Reads the lines in the order of the format. Each value is checked before it is stored, so the
 // model never holds a count beyond its table, a value that is not finite or a feature-list entry
 // that names no table entry; the caller empties the beam after any fault.

@@ -9,20 +9,6 @@
 namespace flexley {
 namespace {
 
-int table_count(const BeamModel& model, FeatureKind kind) {
-    switch (kind) {
-        case FeatureKind::point_load:
-            return model.pt_count;
-        case FeatureKind::distributed_load:
-            return model.di_count;
-        case FeatureKind::moment:
-            return model.mo_count;
-        case FeatureKind::support:
-            return model.su_count;
-    }
-    return 0;
-}
-
 // The checks every addition shares; gives the refusal when the kind's table or the list is full.
 Status check_room(const BeamModel& model, int count, int capacity, const char* kind_plural) {
     if (count >= capacity) {
@@ -58,6 +44,20 @@ double larger_intensity(const BeamModel& model, int index) {
 }
 
 }  // namespace
+
+int table_count(const BeamModel& model, FeatureKind kind) {
+    switch (kind) {
+        case FeatureKind::point_load:
+            return model.pt_count;
+        case FeatureKind::distributed_load:
+            return model.di_count;
+        case FeatureKind::moment:
+            return model.mo_count;
+        case FeatureKind::support:
+            return model.su_count;
+    }
+    return 0;
+}
 
 std::string_view kind_code(FeatureKind kind) {
     switch (kind) {

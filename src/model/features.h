@@ -17,6 +17,9 @@ struct FeatureRef {
     int index;  // 1-based index into the kind's table
 };
 
+// The number of entries used in the kind's table.
+int table_count(const BeamModel& model, FeatureKind kind);
+
 // "pt", "di", "mo" or "su".
 std::string_view kind_code(FeatureKind kind);
 
