@@ -1,11 +1,10 @@
-// Moment of inertia calculator: closed forms, refused dimensions and the texts handed on.
+// Section dialog rules: the calculator's closed forms and refusals, number reading, the chooser.
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <optional>
-#include <ostream>
 #include <string>
 
+#include "sections/chooser_values.h"
 #include "sections/section_calculator.h"
 #include "sections/section_number.h"
 
@@ -14,153 +13,88 @@ namespace {
 
 constexpr double kPi = 3.14159265;
 constexpr CrossSection kRound = CrossSection::round;
-constexpr CrossSection kRectangle = CrossSection::rectangular;
-const std::optional<double> kNone;
+constexpr CrossSection kRect = CrossSection::rectangular;
 
-struct ValidCase {
-    std::string name;
+struct SectionCase {
     CrossSection shape;
     bool tube;
-    SectionDimensions dimensions;
-    double moment_of_inertia;
-    double fibre_distance;
+    SectionDimensions d;
+    double i = 0.0, c = 0.0;  // i stays 0 for dimensions the calculator must refuse
 };
 
-// Names the row in test listings instead of dumping its bytes.
-void PrintTo(const ValidCase& row, std::ostream* out) {
-    *out << row.name;
+// Tubes are checked against the difference of two solids, so a swapped or mis-halved term shows;
+// solids carry a stray hollow dimension that they must ignore.
+TEST(SectionCalculator, ClosedFormsAndRefusals) {
+    const SectionCase cases[] = {
+        {kRound, false, {.outer_diameter = 2.0, .inner_diameter = 5.0}, kPi / 4.0, 1.0},
+        {kRound, true, {.outer_diameter = 4.0, .inner_diameter = 2.0}, 15.0 * kPi / 4.0, 2.0},
+        {kRect, false, {.height = 6.0, .width = 2.0, .wall = 5.0}, 36.0, 3.0},
+        {kRect, true, {.height = 6.0, .width = 4.0, .wall = 0.5}, (864.0 - 375.0) / 12.0, 3.0},
+        {kRound, false, {.outer_diameter = 0.0}},
+        {kRound, true, {.outer_diameter = 2.0}},
+        {kRound, true, {.outer_diameter = 2.0, .inner_diameter = 2.0}},
+        {kRect, false, {.outer_diameter = 4.0, .width = 2.0}},
+        {kRect, false, {.outer_diameter = 4.0, .height = 6.0}},
+        {kRect, true, {.height = 6.0, .width = 4.0}},
+        {kRect, true, {.height = 6.0, .width = 4.0, .wall = 0.0}},
+        {kRect, true, {.height = 6.0, .width = 4.0, .wall = 2.0}},
+        {kRect, true, {.height = 4.0, .width = 6.0, .wall = 2.0}},
+        {kRect, false, {.height = 1e300, .width = 1e300}},
+    };
+    for (const SectionCase& row : cases) {
+        const SectionResult result = calculate_section(row.shape, row.tube, row.d);
+        EXPECT_EQ(result.status.message(), row.i > 0 ? "" : "Invalid dimensions") << &row - cases;
+        if (row.i == 0.0) continue;
+        EXPECT_NEAR(result.properties.moment_of_inertia, row.i, 1e-12 * row.i);
+        EXPECT_DOUBLE_EQ(result.properties.fibre_distance, row.c);
+    }
 }
 
-class SectionValid : public testing::TestWithParam<ValidCase> {};
-
-TEST_P(SectionValid, GivesClosedFormIAndC) {
-    const ValidCase& row = GetParam();
-    const SectionResult result = calculate_section(row.shape, row.tube, row.dimensions);
-    ASSERT_TRUE(result.status.ok()) << result.status.message();
-    EXPECT_NEAR(result.properties.moment_of_inertia, row.moment_of_inertia,
-                1e-12 * row.moment_of_inertia);
-    EXPECT_DOUBLE_EQ(result.properties.fibre_distance, row.fibre_distance);
-}
-
-// Tubes are checked against the difference of two solids, so a swapped or mis-halved term shows.
-INSTANTIATE_TEST_SUITE_P(
-    Sections, SectionValid,
-    testing::Values(
-        ValidCase{"RoundSolid", kRound, false, {.outer_diameter = 2.0}, kPi / 4.0, 1.0},
-        ValidCase{"RoundSolidIgnoresInnerDiameter",
-                  kRound,
-                  false,
-                  {.outer_diameter = 2.0, .inner_diameter = 5.0},
-                  kPi / 4.0,
-                  1.0},
-        ValidCase{"RoundTube",
-                  kRound,
-                  true,
-                  {.outer_diameter = 4.0, .inner_diameter = 2.0},
-                  15.0 * kPi / 4.0,
-                  2.0},
-        ValidCase{"RectangleSolid", kRectangle, false, {.height = 6.0, .width = 2.0}, 36.0, 3.0},
-        ValidCase{"RectangleSolidIgnoresWall",
-                  kRectangle,
-                  false,
-                  {.height = 6.0, .width = 2.0, .wall = 5.0},
-                  36.0,
-                  3.0},
-        ValidCase{"RectangleTube",
-                  kRectangle,
-                  true,
-                  {.height = 6.0, .width = 4.0, .wall = 0.5},
-                  (4.0 * 216.0 - 3.0 * 125.0) / 12.0,
-                  3.0}),
-    [](const testing::TestParamInfo<ValidCase>& info) { return info.param.name; });
-
-struct InvalidCase {
-    std::string name;
-    CrossSection shape;
-    bool tube;
-    SectionDimensions dimensions;
-};
-
-void PrintTo(const InvalidCase& row, std::ostream* out) {
-    *out << row.name;
-}
-
-class SectionInvalid : public testing::TestWithParam<InvalidCase> {};
-
-TEST_P(SectionInvalid, IsRefusedWithTheCalculatorsMessage) {
-    const InvalidCase& row = GetParam();
-    const SectionResult result = calculate_section(row.shape, row.tube, row.dimensions);
-    EXPECT_EQ(result.status.message(), "Invalid dimensions");
-}
-
-constexpr double kHuge = std::numeric_limits<double>::max();
-
-INSTANTIATE_TEST_SUITE_P(
-    Sections, SectionInvalid,
-    testing::Values(
-        InvalidCase{"RoundWithoutDiameter", kRound, false, {.height = 6.0, .width = 2.0}},
-        InvalidCase{"RoundNegativeDiameter", kRound, false, {.outer_diameter = -2.0}},
-        InvalidCase{"TubeWithoutInnerDiameter", kRound, true, {.outer_diameter = 2.0}},
-        InvalidCase{
-            "TubeInnerEqualsOuter", kRound, true, {.outer_diameter = 2.0, .inner_diameter = 2.0}},
-        InvalidCase{
-            "TubeInnerBeyondOuter", kRound, true, {.outer_diameter = 2.0, .inner_diameter = 3.0}},
-        InvalidCase{"RectangleWithoutHeight", kRectangle, false, {.width = 2.0}},
-        InvalidCase{
-            "RectangleWithoutWidth", kRectangle, false, {.outer_diameter = 4.0, .height = 6.0}},
-        InvalidCase{"RectangleZeroHeight", kRectangle, false, {.height = 0.0, .width = 2.0}},
-        InvalidCase{"TubeWithoutWall", kRectangle, true, {.height = 6.0, .width = 4.0}},
-        InvalidCase{"TubeZeroWall", kRectangle, true, {.height = 6.0, .width = 4.0, .wall = 0.0}},
-        InvalidCase{
-            "WallHalfTheWidth", kRectangle, true, {.height = 6.0, .width = 4.0, .wall = 2.0}},
-        InvalidCase{
-            "WallHalfTheHeight", kRectangle, true, {.height = 4.0, .width = 6.0, .wall = 2.0}},
-        InvalidCase{"IOverflows", kRectangle, false, {.height = kHuge, .width = kHuge}}),
-    [](const testing::TestParamInfo<InvalidCase>& info) { return info.param.name; });
-
-TEST(SectionCalculatorTexts, RaisesIToSixFiguresButNeverLowersIt) {
-    const SectionProperties properties{kPi / 4.0, 1.0};
-    EXPECT_EQ(calculator_texts(properties, 3).moment_of_inertia, "0.785398");
-    EXPECT_EQ(calculator_texts(properties, 8).moment_of_inertia, "0.78539816");
-}
-
-TEST(SectionCalculatorTexts, ShowsCUnrounded) {
-    const SectionProperties properties{1.0, 1.234567891};
-    EXPECT_EQ(calculator_texts(properties, 3).fibre_distance, "1.234567891");
-}
-
-TEST(SectionCalculatorTexts, UsingValuesNeedsBothBoxesFilled) {
+TEST(SectionCalculator, TextsRaiseIToSixFiguresAndNeedBothBoxes) {
+    EXPECT_EQ(calculator_texts({kPi / 4.0, 1.0}, 3).moment_of_inertia, "0.785398");
+    EXPECT_EQ(calculator_texts({kPi / 4.0, 1.0}, 8).moment_of_inertia, "0.78539816");
+    EXPECT_EQ(calculator_texts({1.0, 1.234567891}, 3).fibre_distance, "1.234567891");
     EXPECT_TRUE(check_calculator_texts("0.785398", "1").ok());
-    EXPECT_EQ(check_calculator_texts("", "1").message(),
-              "Empty values.  Calculate values before using.");
-    EXPECT_EQ(check_calculator_texts("0.785398", "").message(),
-              "Empty values.  Calculate values before using.");
+    const std::string empty = "Empty values.  Calculate values before using.";
+    EXPECT_EQ(check_calculator_texts("", "1").message(), empty);
+    EXPECT_EQ(check_calculator_texts("0.785398", "").message(), empty);
 }
 
-struct NumberCase {
-    std::string name;
-    std::string text;
-    std::optional<double> value;
+TEST(SectionNumber, ReadsOnlyWholeFiniteNumbers) {
+    EXPECT_EQ(section_number("\t+2.5\t"), 2.5);
+    for (const char* text : {"", "12abc", "+-3", "inf", "1,5"}) {
+        EXPECT_EQ(section_number(text), std::nullopt) << '"' << text << '"';
+    }
+}
+
+struct ShownCase {
+    bool metric;  // the beam's units
+    const char *i, *c, *flag, *shown_i, *shown_c;
 };
 
-void PrintTo(const NumberCase& row, std::ostream* out) {
-    *out << row.name;
+// W12 X 26 is 204 in^4 = 84.91121 x 10^6 mm^4 and 6.1 in = 154.94 mm; IPE 300 is
+// 83.56 x 10^6 mm^4 = 200.7537 in^4 and 150 mm = 5.905512 in. Matching systems keep the file's
+// own digits; only "E" and "M" are unit flags. The dialog's I box then takes metric I in mm^4.
+TEST(SectionChooser, ConvertsOnlyAcrossUnitSystems) {
+    const ShownCase cases[] = {
+        {true, "204", "6.1", "E", "84.9112", "154.94"},
+        {false, "83.56", "150", "M", "200.754", "5.90551"},
+        {false, "204.000", "6.10", "E", "204.000", "6.10"},
+        {true, "204", "6.1", "e", "204", "6.1"},
+        {false, "83.56", "150", "m", "83.56", "150"},
+        {true, "n/a", "6.1", "E", "", "154.94"},
+    };
+    for (const ShownCase& row : cases) {
+        const AxisTexts shown =
+            shown_axis_values(row.i, row.c, row.flag, row.metric, kChooserSigFigs);
+        EXPECT_EQ(shown.moment_of_inertia, row.shown_i) << row.i << ' ' << row.flag;
+        EXPECT_EQ(shown.fibre_distance, row.shown_c) << row.c << ' ' << row.flag;
+    }
+    EXPECT_EQ(shown_axis_values("204", "6.1", "E", true, 3).moment_of_inertia, "84.9");
+    EXPECT_EQ(properties_moment_of_inertia("84.9112", true), "84911200");
+    EXPECT_EQ(properties_moment_of_inertia("0.08", true), "80000");
+    EXPECT_EQ(properties_moment_of_inertia("204.000", false), "204.000");
 }
-
-class SectionNumber : public testing::TestWithParam<NumberCase> {};
-
-TEST_P(SectionNumber, ReadsOnlyWholeNumbers) {
-    EXPECT_EQ(section_number(GetParam().text), GetParam().value) << '"' << GetParam().text << '"';
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Sections, SectionNumber,
-    testing::Values(NumberCase{"Integer", "12", 12.0}, NumberCase{"Blanks", " 2.5 ", 2.5},
-                    NumberCase{"PlusSign", "+3", 3.0}, NumberCase{"Exponent", "1E+03", 1000.0},
-                    NumberCase{"Empty", "", kNone}, NumberCase{"TrailingLetters", "12abc", kNone},
-                    NumberCase{"TwoSigns", "+-3", kNone}, NumberCase{"Infinity", "inf", kNone},
-                    NumberCase{"DecimalComma", "1,5", kNone}),
-    [](const testing::TestParamInfo<NumberCase>& info) { return info.param.name; });
 
 }  // namespace
 }  // namespace flexley
