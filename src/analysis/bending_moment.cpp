@@ -11,7 +11,7 @@
 #include <array>
 #include <cmath>
 
-#include "analysis/grid.h"
+#include "model/grid.h"
 #include "analysis/load_integrals.h"
 #include "analysis/table_bounds.h"
 

@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "analysis/grid.h"
+#include "model/grid.h"
 
 namespace flexley {
 

@@ -2,22 +2,13 @@
 #include "cli/cli_options.h"
 
 #include <charconv>
-#include <cmath>
-#include <cstdlib>
 #include <map>
 
 #include "model/limits.h"
+#include "model/typed_number.h"
 
 namespace flexley::cli {
 namespace {
-
-std::optional<double> parse_number(const std::string& text) {
-    if (text.empty()) return std::nullopt;
-    char* end = nullptr;
-    const double value = std::strtod(text.c_str(), &end);
-    if (end != text.c_str() + text.size() || !std::isfinite(value)) return std::nullopt;
-    return value;
-}
 
 std::optional<int> parse_integer(const std::string& text) {
     int value = 0;
@@ -123,7 +114,7 @@ class Parser {
     }
 
     std::optional<UsageError> resolution(const std::string& text) {
-        const auto value = parse_number(text);
+        const auto value = typed_number(text);
         if (!value || !resolution_in_range(*value)) {
             return UsageError{"--resolution must be a number from 10 to 200000"};
         }
@@ -132,7 +123,7 @@ class Parser {
     }
 
     std::optional<UsageError> position(const std::string& text) {
-        const auto value = parse_number(text);
+        const auto value = typed_number(text);
         if (!value) return UsageError{"--at needs a number, not " + text};
         options_.at.push_back(*value);
         return std::nullopt;

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "analysis/grid.h"
+#include "model/grid.h"
 #include "analysis/reaction_text.h"
 #include "model/display.h"
 #include "model/features.h"

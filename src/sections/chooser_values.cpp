@@ -5,8 +5,8 @@
 #include <optional>
 
 #include "model/display.h"
+#include "model/typed_number.h"
 #include "model/units.h"
-#include "sections/section_number.h"
 
 namespace flexley {
 namespace {
@@ -16,7 +16,7 @@ constexpr double kMillimetresPerInch = 25.4;
 constexpr double kMillimetresPerMetre = 1000.0;
 
 std::string converted(std::string_view text, double (*convert)(double), int sig_figs) {
-    const std::optional<double> value = section_number(text);
+    const std::optional<double> value = typed_number(text);
     return value ? display_number(convert(*value), sig_figs) : std::string();
 }
 
@@ -53,7 +53,7 @@ AxisTexts shown_axis_values(std::string_view moment_of_inertia, std::string_view
 
 std::string properties_moment_of_inertia(std::string_view shown, bool metric_units) {
     if (!metric_units || shown.empty()) return std::string(shown);
-    const std::optional<double> value = section_number(shown);
+    const std::optional<double> value = typed_number(shown);
     return value ? number_text(*value * kMega) : std::string();
 }
 

@@ -1,7 +1,8 @@
-// Number text and display rounding: the forms users see and the tie rules.
+// Numbers as text: the forms users see, display rounding with its tie rule, typed numbers.
 #include <gtest/gtest.h>
 
 #include "model/display.h"
+#include "model/typed_number.h"
 
 namespace flexley {
 namespace {
@@ -55,6 +56,13 @@ INSTANTIATE_TEST_SUITE_P(
                       RoundCase{2.51e-7, 1, "3E-07"}, RoundCase{9.96e20, 2, "1E+21"},
                       RoundCase{1250.0001, 2, "1300"}, RoundCase{83.333333333, 3, "83.3"},
                       RoundCase{0.1 + 0.2, 15, "0.3"}, RoundCase{123.456, 20, "123.456"}));
+
+TEST(TypedNumber, ReadsOnlyWholeFiniteNumbers) {
+    EXPECT_EQ(typed_number("\t+2.5\t"), 2.5);
+    for (const char* text : {"", "12abc", "+-3", "inf", "1,5"}) {
+        EXPECT_EQ(typed_number(text), std::nullopt) << '"' << text << '"';
+    }
+}
 
 }  // namespace
 }  // namespace flexley

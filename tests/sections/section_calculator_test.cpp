@@ -6,7 +6,6 @@
 
 #include "sections/chooser_values.h"
 #include "sections/section_calculator.h"
-#include "sections/section_number.h"
 
 namespace flexley {
 namespace {
@@ -58,13 +57,6 @@ TEST(SectionCalculator, TextsRaiseIToSixFiguresAndNeedBothBoxes) {
     const std::string empty = "Empty values.  Calculate values before using.";
     EXPECT_EQ(check_calculator_texts("", "1").message(), empty);
     EXPECT_EQ(check_calculator_texts("0.785398", "").message(), empty);
-}
-
-TEST(SectionNumber, ReadsOnlyWholeFiniteNumbers) {
-    EXPECT_EQ(section_number("\t+2.5\t"), 2.5);
-    for (const char* text : {"", "12abc", "+-3", "inf", "1,5"}) {
-        EXPECT_EQ(section_number(text), std::nullopt) << '"' << text << '"';
-    }
 }
 
 struct ShownCase {

@@ -11,7 +11,7 @@
 #include "analysis/run.h"
 #include "files/beam_definitions.h"
 #include "files/load_file.h"
-#include "sections/section_number.h"
+#include "model/typed_number.h"
 
 namespace flexley {
 namespace {
@@ -19,7 +19,7 @@ namespace {
 TEST(SectionBeamList, EverySectionHoldsCompletePlausibleRecords) {
     const std::optional<BeamDefinitions> list = read_beam_definitions(FLEXLEY_BEAM_LIST);
     ASSERT_TRUE(list.has_value()) << FLEXLEY_BEAM_LIST;
-    const auto value = [](const std::string& text) { return section_number(text).value_or(0.0); };
+    const auto value = [](const std::string& text) { return typed_number(text).value_or(0.0); };
     for (int k = 0; k < kSectionKindCount; ++k) {
         EXPECT_FALSE(list->sections[k].empty()) << kSectionKinds[k].header;
         for (const SectionRecord& r : list->sections[k]) {

@@ -1,4 +1,4 @@
-// Reading a number from a dimension box of the calculator or a field of the beam definition file.
+// Reading a number the user typed into a box, or that a beam definition file holds.
 #pragma once
 
 #include <optional>
@@ -8,6 +8,6 @@ namespace flexley {
 
 // The finite number that the whole text spells (surrounding blanks allowed, a leading "+" too);
 // nothing for an empty text or one that is not a number as a whole.
-std::optional<double> section_number(std::string_view text);
+std::optional<double> typed_number(std::string_view text);
 
 }  // namespace flexley

@@ -1,12 +1,12 @@
-// Whole-text number reading for the section dialogs: "12abc" is not 12.
-#include "sections/section_number.h"
+// Whole-text number reading for typed values: "12abc" is not 12.
+#include "model/typed_number.h"
 
 #include <charconv>
 #include <cmath>
 
 namespace flexley {
 
-std::optional<double> section_number(std::string_view text) {
+std::optional<double> typed_number(std::string_view text) {
     const auto first = text.find_first_not_of(" \t");
     if (first == std::string_view::npos) return {};
     text = text.substr(first, text.find_last_not_of(" \t") - first + 1);
