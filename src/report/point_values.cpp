@@ -2,8 +2,6 @@
 #include "report/point_values.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 
 #include "model/grid.h"
 #include "model/typed_number.h"
