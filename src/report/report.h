@@ -13,13 +13,13 @@ inline constexpr const char* kInvalidReportLocation = "Invalid value in 'Locatio
 
 // What the report dialog chose to print.
 struct ReportOptions {
-    std::string title;
+    std::string title{};
     bool beam_properties = false;
     bool load_text = false;
     bool support_reactions = false;  // only on the support lines of the load configuration
     bool maximum_values = false;
     bool point_values = false;
-    std::string point_text;       // the position as typed, printed unchanged in the heading
+    std::string point_text{};     // the position as typed, printed unchanged in the heading
     double point_position = 0.0;  // the same position in base units, checked by the caller
     bool point_in_feet = true;    // the "ft." choice of an English model
 };

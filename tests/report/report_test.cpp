@@ -161,8 +161,7 @@ TEST(Report, EnglishBeamWithEverySectionThenWithoutLoads) {
         Simple support; 180 in., Reaction=-300 lb.
         Simple support; 20 ft.
 )");
-    ReportOptions options{
-        .title = "", .load_text = true, .support_reactions = true, .point_text = ""};
+    ReportOptions options{.load_text = true, .support_reactions = true};
     EXPECT_EQ(without_loads, text(report_lines(model, options, kDate)));
     options.support_reactions = false;
     EXPECT_EQ(report_lines(model, options, kDate)[25], "        Simple support; 10 ft.");
@@ -253,10 +252,9 @@ TEST(Report, MetricBeamWithEverySectionAndNoTitle) {
 }
 
 TEST(Report, HeaderAndDateComeWithATitleOrASection) {
-    const ReportOptions reactions{.title = "", .support_reactions = true, .point_text = ""};
+    const ReportOptions reactions{.support_reactions = true};
     EXPECT_TRUE(report_lines({}, reactions, kDate).empty());  // reactions alone are no section
-    EXPECT_EQ(report("Only a title", ""),
-              text(report_lines({}, {.title = "Only a title", .point_text = ""}, kDate)));
+    EXPECT_EQ(report("Only a title", ""), text(report_lines({}, {.title = "Only a title"}, kDate)));
 }
 
 }  // namespace
