@@ -6,42 +6,6 @@
 #include <cmath>
 
 namespace flexley {
-namespace {
-
-bool is_digit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-std::size_t count_digits(std::string_view text, std::size_t from) {
-    std::size_t end = from;
-    while (end < text.size() && is_digit(text[end]))
-        ++end;
-    return end - from;
-}
-
-// Checked by hand because from_chars also takes "inf" and "nan", which no file may hold.
-bool is_decimal_syntax(std::string_view text) {
-    std::size_t i = 0;
-    if (i < text.size() && text[i] == '-') ++i;
-    const std::size_t whole = count_digits(text, i);
-    i += whole;
-    std::size_t fraction = 0;
-    if (i < text.size() && text[i] == '.') {
-        fraction = count_digits(text, i + 1);
-        i += 1 + fraction;
-    }
-    if (whole + fraction == 0) return false;
-    if (i < text.size() && (text[i] == 'E' || text[i] == 'e')) {
-        ++i;
-        if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
-        const std::size_t exponent = count_digits(text, i);
-        if (exponent == 0) return false;
-        i += exponent;
-    }
-    return i == text.size();
-}
-
-}  // namespace
 
 std::optional<std::string_view> LineCursor::next_line() {
     if (rest_.empty()) return std::nullopt;
@@ -81,8 +45,8 @@ std::optional<std::vector<Field>> split_fields(std::string_view line) {
 }
 
 std::optional<double> parse_number(const Field& field) {
+    // from_chars takes neither blanks nor a plus sign; "inf" and "nan" fail the finiteness test.
     const std::string_view text = field.text;
-    if (!is_decimal_syntax(text)) return std::nullopt;
     double value = 0.0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(value)) {
