@@ -1,31 +1,32 @@
-// The text report line by line, in both unit systems, against hand-derived expectations.
+// The text report line by line in both unit systems, the unit thresholds of its read-outs and the
+// grid point a typed position is read at.
 #include "report/report.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
-#include <string_view>
-#include <vector>
+#include <tuple>
 
 #include "model/features.h"
+#include "report/point_values.h"
+#include "report/unit_choice.h"
 
 namespace flexley {
 namespace {
 
 const std::string kDate = "06/01/24";
 
-// The whole expected report as text, one line per report line: the nine header lines, the body,
-// then two empty lines and the date.
-std::string report(const std::string& title, std::string_view body) {
+// The whole expected report: the nine header lines, the body, then two empty lines and the date.
+std::string report(const std::string& title, const std::string& body) {
     const std::string rule = "    " + std::string(114, '-') + "\n";
     return "\n\n" + rule + std::string(43, ' ') + "FLEXLEY V2.2 REPORT\n" + rule + "\n    " +
-           title + "\n\n" + rule + std::string(body) + "\n\n" + kDate + "\n";
+           title + "\n\n" + rule + body + "\n\n" + kDate + "\n";
 }
 
-// The report as the same text, so that a failed comparison shows gtest's line diff.
-std::string text(const std::vector<std::string>& lines) {
+// The report as one text, so that a failed comparison shows gtest's line diff.
+std::string printed(const BeamModel& model, const ReportOptions& options) {
     std::string all;
-    for (const auto& line : lines)
+    for (const auto& line : report_lines(model, options, kDate))
         all += line + "\n";
     return all;
 }
@@ -47,10 +48,10 @@ void set_results(BeamModel& model, int k) {
     model.slope[k] = -0.01 * ei;
 }
 
-// A 20 ft beam shown with 8 figures: loads in inches and feet, a triangular load rising from 0,
-// a cantilever at the left end and two simple supports. The maximum positions follow the model's
-// inch choice and the point heading the dialog's feet choice: set apart here so that a mix-up
-// shows. With 8 figures the two read-outs' roundings of pi give different slopes.
+// A 20 ft beam shown with 8 figures: each load kind in inch and foot units crosswise, a triangular
+// load rising from 0, a cantilever at the left end and two simple supports. The maximum positions
+// follow the model's inch choice and the point heading the dialog's feet choice: set apart here so
+// that a mix-up shows. With 8 figures the two read-outs' roundings of pi give different slopes.
 TEST(Report, EnglishBeamWithEverySectionThenWithoutLoads) {
     BeamModel model;
     model.beam_length = 240.0;
@@ -60,21 +61,19 @@ TEST(Report, EnglishBeamWithEverySectionThenWithoutLoads) {
     model.elastic_modulus = 29e6f;
     model.fibre_distance = 5.0f;
     add_point_load(model, -1000.0, 60.0, "in", "lb");
-    add_point_load(model, -500.0, 120.0, "ft", "lb");
-    add_distributed_load(model, 0.0, 120.0, 0.0, -50.0, "in", "pi");
-    add_distributed_load(model, 120.0, 240.0, -10.0, -10.0, "ft", "pf");
-    add_distributed_load(model, 24.0, 36.0, -5.0, -7.5, "ft", "pi");
-    add_moment(model, 1200.0, 180.0, "in", "pi");
-    add_moment(model, -6000.0, 200.0, "ft", "pf");
+    add_distributed_load(model, 0.0, 120.0, 0.0, -50.0, "ft", "pi");
+    add_distributed_load(model, 120.0, 240.0, -10.0, -10.0, "in", "pf");
+    add_moment(model, -1200.0, 180.0, "ft", "pi");
+    add_moment(model, 1000.0, 200.0, "in", "pf");
     add_support(model, 0.0, "cant", "in", "lb");
     add_support(model, 120.0, "simp", "ft", "lb");
     add_support(model, 180.0, "simp", "in", "lb");
     model.reaction_count = 3;
     model.cantilever_count = 1;
-    model.reaction_feature = {0, 8, 9, 10};
+    model.reaction_feature = {0, 6, 7, 8};
     model.reaction = {0, -25000.0, 1500.0, 2000.0, 1000.0 / 3};
     set_results(model, 2500);  // 5 ft of 20 at the default 10000 intervals
-    const std::string expected = report("Test beam", R"(
+    EXPECT_EQ(printed(model, {"Beam", true, true, true, true, true, "5.0", 60}), report("Beam", R"(
 
     BEAM PROPERTIES
     -------------------------------
@@ -91,18 +90,16 @@ TEST(Report, EnglishBeamWithEverySectionThenWithoutLoads) {
         Point Loads
         ------------------
         -1000 lb., x=60 in.
-        -500 lb., x=10 ft.
 
         Distributed Loads
         ---------------------------
-        Start=0 lb./in., x=0 in.; End=-50 lb./in., x=120 in.
-        Start=-120 lb./ft., x=10 ft.; End=-120 lb./ft., x=20 ft.
-        Start=-5 lb./in., x=2 ft.; End=-7.5 lb./in., x=3 ft.
+        Start=0 lb./in., x=0 ft.; End=-50 lb./in., x=10 ft.
+        Start=-120 lb./ft., x=120 in.; End=-120 lb./ft., x=240 in.
 
         Moments
         ---------------
-        1200 lb.-in., x=180 in.
-        -500 lb.-ft., x=16.666667 ft.
+        -1200 lb.-in., x=15 ft.
+        83.333333 lb.-ft., x=200 in.
 
         Supports
         ----------------
@@ -127,21 +124,20 @@ TEST(Report, EnglishBeamWithEverySectionThenWithoutLoads) {
         Bending Stress=1000 ksi
         Deflection=0.001 in.
         Slope=-0.5729578 degrees
-)");
-    const ReportOptions every_section{"Test beam", true, true, true, true, true, "5.0", 60.0};
-    EXPECT_EQ(expected, text(report_lines(model, every_section, kDate)));
+)"));
+    // The values-at-a-point dialog reads the same point from the typed text.
+    EXPECT_EQ(find_point_values(model, "5.0", true).texts.moment, "-999 lb.-in.");
 
     // Every load and the cantilever removed, and a support added since the last run: each heading
-    // stays, with nothing under it; without cantilevers each solved support takes its own force
-    // and the new one none.
-    for (int feature = 1; feature <= 8; ++feature)
+    // stays, with nothing under it; without cantilevers the forces start at the table's first
+    // entry, and the new support has none.
+    for (int feature = 1; feature <= 6; ++feature)
         remove_feature(model, feature);
     add_support(model, 240.0, "simp", "ft", "lb");
     model.reaction_count = 2;
     model.cantilever_count = 0;
-    model.reaction_feature = {0, 9, 10};
-    model.reaction = {0, 100.0, -300.0};
-    const std::string without_loads = report("", R"(
+    model.reaction_feature = {0, 7, 8};
+    EXPECT_EQ(printed(model, {.load_text = true, .support_reactions = true}), report("", R"(
 
     LOAD CONFIGURATION
     ------------------------------------
@@ -157,14 +153,10 @@ TEST(Report, EnglishBeamWithEverySectionThenWithoutLoads) {
 
         Supports
         ----------------
-        Simple support; 10 ft., Reaction=100 lb.
-        Simple support; 180 in., Reaction=-300 lb.
+        Simple support; 10 ft., Reaction=-25000 lb.
+        Simple support; 180 in., Reaction=1500 lb.
         Simple support; 20 ft.
-)");
-    ReportOptions options{.load_text = true, .support_reactions = true};
-    EXPECT_EQ(without_loads, text(report_lines(model, options, kDate)));
-    options.support_reactions = false;
-    EXPECT_EQ(report_lines(model, options, kDate)[25], "        Simple support; 10 ft.");
+)"));
 }
 
 // A beam of 3.14159 m shown with the default 3 figures, which its length ignores: newton and
@@ -193,7 +185,7 @@ TEST(Report, MetricBeamWithEverySectionAndNoTitle) {
     model.reaction_feature = {0, 8, 7, 10, 9};
     model.reaction = {0, -800.0, 300.0, 1000.0, 1500.0, 2500.0, 1251.0};
     set_results(model, 6366);  // 2 m is grid position 6366.2
-    const std::string expected = report("", R"(
+    EXPECT_EQ(printed(model, {"", true, true, true, true, true, "2.0", 2.0}), report("", R"(
 
     BEAM PROPERTIES
     -------------------------------
@@ -246,15 +238,48 @@ TEST(Report, MetricBeamWithEverySectionAndNoTitle) {
         Bending Stress=1 MPa
         Deflection=1 mm
         Slope=-0.573 degrees
-)");
-    const ReportOptions every_section{"", true, true, true, true, true, "2.0", 2.0};
-    EXPECT_EQ(expected, text(report_lines(model, every_section, kDate)));
+)"));
 }
 
+// Reactions alone are no section; a title alone brings the header and the date.
 TEST(Report, HeaderAndDateComeWithATitleOrASection) {
-    const ReportOptions reactions{.support_reactions = true};
-    EXPECT_TRUE(report_lines({}, reactions, kDate).empty());  // reactions alone are no section
-    EXPECT_EQ(report("Only a title", ""), text(report_lines({}, {.title = "Only a title"}, kDate)));
+    EXPECT_EQ("", printed({}, {.support_reactions = true}));
+    EXPECT_EQ(report("Only a title", ""), printed({}, {.title = "Only a title"}));
+}
+
+// Just below each threshold the smaller unit, at it the larger one; the signs alternate so that
+// each function meets a negative value on the larger side.
+TEST(UnitChoice, ThresholdTakesTheLargerUnitAtTheBoundary) {
+    using Scale = ScaledValue (*)(double, bool);
+    const std::tuple<Scale, bool, double, const char*, double, const char*> rows[] = {
+        {moment_value, false, 999.99, "999.99 lb.-in.", -1000.0, "-83.3333333333333 lb.-ft."},
+        {stress_value, true, -999.99, "-999.99 Pa", 1000.0, "1 kPa"},
+        {stress_value, true, 999999.99, "999.99999 kPa", -1e6, "-1 MPa"},
+        {stress_value, false, -9999.99, "-9999.99 psi", 10000.0, "10 ksi"},
+    };
+    for (const auto& [scale, metric, below, below_text, at, at_text] : rows) {
+        EXPECT_EQ(value_text(scale(below, metric), 15), below_text);
+        EXPECT_EQ(value_text(scale(at, metric), 15), at_text);
+    }
+}
+
+// A 120 in. beam of 10 intervals: the grid point a text is read at, or -1 when it is refused. A
+// position midway between two points takes the even one; 10 ft. is the right end itself; a metric
+// position is in metres whatever the feet choice.
+TEST(PointValues, ReadsTheNearestPointOrRefusesTheText) {
+    BeamModel model;
+    model.beam_length = 120.0;
+    model.resolution = 10.0f;
+    const std::tuple<const char*, bool, bool, int> rows[] = {
+        {"6", false, false, 0},    {"18", false, false, 2},    {"10", false, true, 10},
+        {"10.5", false, true, -1}, {"-0.1", false, false, -1}, {"18", true, true, 2},
+    };
+    for (const auto& [text, metric, in_feet, point] : rows) {
+        model.metric_units = metric;
+        const auto position = position_on_beam(model, text, in_feet);
+        EXPECT_EQ(position ? nearest_point(model, *position) : -1, point) << text;
+    }
+    EXPECT_EQ(find_point_values(model, "nan", false).status.message(), kInvalidLocation);
 }
 
 }  // namespace
