@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <ranges>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -22,23 +24,20 @@ inline constexpr double kRigidity = static_cast<double>(kModulus) * kInertia;  /
 
 // One word of a beam description, its ':' and '@' read as separators.
 inline Status apply_word(BeamModel& model, std::string word) {
-    std::replace(word.begin(), word.end(), ':', ' ');
-    std::replace(word.begin(), word.end(), '@', ' ');
+    std::replace_if(
+        word.begin(), word.end(), [](char c) { return c == ':' || c == '@'; }, ' ');
     std::istringstream in(word);
-    std::vector<std::string> t;
-    for (std::string token; in >> token;) {
-        t.push_back(token);
-    }
-    const auto num = [&](std::size_t i) { return std::stod(t.at(i)); };
+    const std::vector<std::string> t{std::istream_iterator<std::string>(in), {}};
     // "#K" is grid point K of the resolution set so far, computed exactly as the engine does.
-    const auto at = [&](std::size_t i) {
-        if (t.at(i).front() != '#') return num(i);
+    const auto num = [&](std::size_t i) {
+        if (t.at(i).front() != '#') return std::stod(t[i]);
         return std::stoi(t[i].substr(1)) * (model.beam_length / model.resolution);
     };
-    if (t[0] == "simp" || t[0] == "cant") return add_support(model, at(1), t[0], "in", "lb");
-    if (t[0] == "pt") return add_point_load(model, num(1), at(2), "in", "lb");
-    if (t[0] == "mo") return add_moment(model, num(1), at(2), "in", "pi");
-    if (t[0] == "di") return add_distributed_load(model, at(3), at(4), num(1), num(2), "in", "pi");
+    if (t[0] == "simp" || t[0] == "cant") return add_support(model, num(1), t[0], "in", "lb");
+    if (t[0] == "pt") return add_point_load(model, num(1), num(2), "in", "lb");
+    if (t[0] == "mo") return add_moment(model, num(1), num(2), "in", "pi");
+    if (t[0] == "di")
+        return add_distributed_load(model, num(3), num(4), num(1), num(2), "in", "pi");
     if (t[0] == "rm") return remove_feature(model, std::stoi(t.at(1)));
     if (t[0] != "N") return Status::failure("unknown word " + t[0]);
     model.resolution = std::stof(t.at(1));
@@ -56,19 +55,15 @@ inline BeamModel beam(const std::string& description) {
     model.fibre_distance = kFibre;
     std::istringstream words(description);
     for (std::string word; words >> word;) {
-        const Status status = apply_word(model, word);
-        EXPECT_TRUE(status.ok()) << word << ": " << status.message();
+        EXPECT_EQ(apply_word(model, word).message(), "") << word;
     }
     return model;
 }
 
-// The largest magnitude of values(0..last).
-inline double largest_magnitude(const std::vector<double>& values, int last) {
-    double largest = 0.0;
-    for (int i = 0; i <= last; ++i) {
-        largest = std::max(largest, std::abs(values[i]));
-    }
-    return largest;
+// The largest magnitude of values[0..last].
+inline double largest_magnitude(const auto& values, int last) {
+    return std::ranges::max(values | std::views::take(last + 1) |
+                            std::views::transform([](double v) { return std::abs(v); }));
 }
 
 }  // namespace flexley::testing_beams
