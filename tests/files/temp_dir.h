@@ -3,8 +3,8 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <random>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -12,14 +12,12 @@ namespace flexley {
 
 struct TempDir {
     TempDir() { std::filesystem::create_directory(path); }
-    ~TempDir() {
-        std::error_code error;
-        std::filesystem::remove_all(path, error);
-    }
+    ~TempDir() { std::filesystem::remove_all(path, removal_error); }
     std::string file(std::string_view name) const { return (path / name).string(); }
 
     const std::filesystem::path path = std::filesystem::temp_directory_path() /
                                        ("flexley-test-" + std::to_string(std::random_device()()));
+    std::error_code removal_error;  // a directory left behind must not fail the test
 };
 
 inline void write_test_file(const std::string& path, std::string_view text) {
@@ -27,8 +25,7 @@ inline void write_test_file(const std::string& path, std::string_view text) {
 }
 
 inline std::string read_test_file(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    return (std::ostringstream() << std::ifstream(path, std::ios::binary).rdbuf()).str();
 }
 
 }  // namespace flexley
