@@ -36,8 +36,9 @@ class LoadReader {
         : lines_(text), m_(model), format_(format) {}
 
     bool read() {
-        return read_counts() && read_scales() && read_settings() && read_point_loads() &&
-               read_distributed_loads() && read_moments() && read_supports() &&
+        return read_counts() && read_scales() && read_settings() &&
+               read_concentrated(m_.pt_count, m_.pt_mag, m_.pt_loc) && read_distributed_loads() &&
+               read_concentrated(m_.mo_count, m_.mo_mag, m_.mo_loc) && read_supports() &&
                read_feature_list() && lines_.only_blank_lines_left();
     }
 
@@ -81,9 +82,12 @@ class LoadReader {
         return read_boolean(m_.metric_units) && close_line();
     }
 
-    bool read_point_loads() {
-        for (int j = 1; j <= m_.pt_count; ++j) {
-            if (!(open_line() && read_double(m_.pt_mag[j]) && read_double(m_.pt_loc[j]) &&
+    // Point loads and moments share their line: magnitude, then position.
+    template <std::size_t N>
+    bool read_concentrated(int count, std::array<double, N>& magnitudes,
+                           std::array<double, N>& positions) {
+        for (int j = 1; j <= count; ++j) {
+            if (!(open_line() && read_double(magnitudes[j]) && read_double(positions[j]) &&
                   close_line())) {
                 return false;
             }
@@ -109,16 +113,6 @@ class LoadReader {
             return true;
         }
         return read_double(m_.di_mag_start[j]) && read_double(m_.di_mag_end[j]);
-    }
-
-    bool read_moments() {
-        for (int j = 1; j <= m_.mo_count; ++j) {
-            if (!(open_line() && read_double(m_.mo_mag[j]) && read_double(m_.mo_loc[j]) &&
-                  close_line())) {
-                return false;
-            }
-        }
-        return true;
     }
 
     bool read_supports() {

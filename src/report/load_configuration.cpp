@@ -2,6 +2,7 @@
 #include "report/load_configuration.h"
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 
 #include "model/features.h"
@@ -68,17 +69,27 @@ void append_heading(std::vector<std::string>& lines, const char* heading, std::s
     lines.push_back(subsection_rule(rule));
 }
 
-void append_point_loads(std::vector<std::string>& lines, const BeamModel& model) {
-    append_heading(lines, "Point Loads", 18);
-    for (int k = 1; k <= std::min<int>(model.pt_count, kMaxPointLoads); ++k) {
-        const FeatureRef entry{FeatureKind::point_load, k};
+// Point loads and moments print alike: the magnitude in the feature's unit, then its position.
+template <std::size_t N>
+void append_concentrated(std::vector<std::string>& lines, const BeamModel& model, FeatureKind kind,
+                         int count, const std::array<double, N>& magnitudes,
+                         const std::array<double, N>& positions,
+                         ScaledValue (*shown)(double, bool, FeatureUnits)) {
+    for (int k = 1; k <= std::min<int>(count, N - 1); ++k) {
+        const FeatureRef entry{kind, k};
         if (is_removed(model, entry)) continue;
         const auto units = units_of(model, entry);
         lines.push_back(
             kItemIndent +
-            value_text(point_load(model.pt_mag[k], model.metric_units, units), model.sig_figs) +
-            ", x=" + position_text(model, model.pt_loc[k], units));
+            value_text(shown(magnitudes[k], model.metric_units, units), model.sig_figs) +
+            ", x=" + position_text(model, positions[k], units));
     }
+}
+
+void append_point_loads(std::vector<std::string>& lines, const BeamModel& model) {
+    append_heading(lines, "Point Loads", 18);
+    append_concentrated(lines, model, FeatureKind::point_load, model.pt_count, model.pt_mag,
+                        model.pt_loc, point_load);
 }
 
 void append_distributed_loads(std::vector<std::string>& lines, const BeamModel& model) {
@@ -99,15 +110,8 @@ void append_distributed_loads(std::vector<std::string>& lines, const BeamModel& 
 
 void append_moments(std::vector<std::string>& lines, const BeamModel& model) {
     append_heading(lines, "Moments", 15);
-    for (int k = 1; k <= std::min<int>(model.mo_count, kMaxMoments); ++k) {
-        const FeatureRef entry{FeatureKind::moment, k};
-        if (is_removed(model, entry)) continue;
-        const auto units = units_of(model, entry);
-        lines.push_back(
-            kItemIndent +
-            value_text(moment_load(model.mo_mag[k], model.metric_units, units), model.sig_figs) +
-            ", x=" + position_text(model, model.mo_loc[k], units));
-    }
+    append_concentrated(lines, model, FeatureKind::moment, model.mo_count, model.mo_mag,
+                        model.mo_loc, moment_load);
 }
 
 // The reaction vector holds the cantilever moments first (the first cantilever is system
