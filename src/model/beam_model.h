@@ -12,6 +12,11 @@ namespace flexley {
 
 // Feature tables are indexed from 1, as feature numbers and table indices are shown to the user;
 // slot 0 of every table is unused.
+// Exact: closed-form integrals of the piecewise polynomial moment, at every grid point.
+// Trapezoid: the moment array integrated twice by the trapezoidal rule, shooting between simple
+// supports.
+enum class IntegrationMethod { exact, trapezoid };
+
 template <typename T, int Capacity>
 using Table = std::array<T, Capacity + 1>;
 
@@ -27,7 +32,13 @@ struct BeamModel {
     float moment_of_inertia = 0.0f;
     float elastic_modulus = 0.0f;
     float fibre_distance = 0.0f;
+    // Every change of the beam makes the results stale (false); a completed run makes them valid.
+    // A run whose deflection iteration was stopped unconverged leaves them partial instead: the
+    // reactions, moments and stresses are complete, slope and deflection are those reached.
     bool results_valid = false;
+    bool results_partial = false;
+    // How slope and deflection are found; a setting of the program, not saved with the beam.
+    IntegrationMethod integration_method = IntegrationMethod::exact;
 
     // Point loads.
     int16_t pt_count = 0;
