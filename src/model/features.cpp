@@ -6,6 +6,10 @@
 #include <cmath>
 #include <utility>
 
+#include "model/beam_settings.h"
+#include "model/drawing_scale.h"
+#include "model/feature_rules.h"
+
 namespace flexley {
 namespace {
 
@@ -23,24 +27,15 @@ Status check_room(const BeamModel& model, int count, int capacity, const char* k
     return Status::success();
 }
 
-// Appends the feature list entry for a table entry just added, with its display unit codes.
+// Appends the feature list entry for a table entry just added, with its display unit codes; the
+// beam has changed.
 void append_feature(BeamModel& model, FeatureKind kind, int index, std::string loc_unit,
                     std::string mag_unit) {
     const int number = ++model.feature_count;
     model.feature_list[number] = std::string(kind_code(kind)) + std::to_string(index);
     model.loc_unit[number] = std::move(loc_unit);
     model.mag_unit[number] = std::move(mag_unit);
-}
-
-void track_scale(double& max_magnitude, double& scale_magnitude, bool first, double magnitude) {
-    if (first || std::fabs(magnitude) >= max_magnitude) {
-        scale_magnitude = max_magnitude;
-        max_magnitude = std::fabs(magnitude);
-    }
-}
-
-double larger_intensity(const BeamModel& model, int index) {
-    return std::fmax(std::fabs(model.di_mag_start[index]), std::fabs(model.di_mag_end[index]));
+    mark_results_stale(model);
 }
 
 }  // namespace
@@ -126,7 +121,8 @@ Status add_point_load(BeamModel& model, double magnitude, double location, std::
     if (auto room = check_room(model, model.pt_count, kMaxPointLoads, "point loads"); !room.ok()) {
         return room;
     }
-    track_point_scale(model, magnitude);
+    if (auto valid = check_point_load(model, magnitude, location); !valid.ok()) return valid;
+    track_scale(model, FeatureKind::point_load, magnitude);
     const int index = ++model.pt_count;
     model.pt_mag[index] = magnitude;
     model.pt_loc[index] = location;
@@ -140,8 +136,11 @@ Status add_distributed_load(BeamModel& model, double start, double end, double m
         !room.ok()) {
         return room;
     }
-    track_distributed_scale(model,
-                            std::fabs(mag_start) >= std::fabs(mag_end) ? mag_start : mag_end);
+    if (auto valid = check_distributed_load(model, start, end, mag_start, mag_end); !valid.ok()) {
+        return valid;
+    }
+    track_scale(model, FeatureKind::distributed_load,
+                std::fmax(std::fabs(mag_start), std::fabs(mag_end)));
     const int index = ++model.di_count;
     model.di_start[index] = start;
     model.di_end[index] = end;
@@ -157,7 +156,8 @@ Status add_moment(BeamModel& model, double magnitude, double location, std::stri
     if (auto room = check_room(model, model.mo_count, kMaxMoments, "moments"); !room.ok()) {
         return room;
     }
-    track_moment_scale(model, magnitude);
+    if (auto valid = check_moment(model, magnitude, location); !valid.ok()) return valid;
+    track_scale(model, FeatureKind::moment, magnitude);
     const int index = ++model.mo_count;
     model.mo_mag[index] = magnitude;
     model.mo_loc[index] = location;
@@ -170,6 +170,7 @@ Status add_support(BeamModel& model, double location, std::string type, std::str
     if (auto room = check_room(model, model.su_count, kMaxSupports, "supports"); !room.ok()) {
         return room;
     }
+    if (auto valid = check_support(model, location, type); !valid.ok()) return valid;
     const int index = ++model.su_count;
     model.su_loc[index] = location;
     model.su_type[index] = std::move(type);
@@ -177,73 +178,28 @@ Status add_support(BeamModel& model, double location, std::string type, std::str
     return Status::success();
 }
 
-void track_point_scale(BeamModel& model, double magnitude) {
-    track_scale(model.pt_maxmag, model.pt_scalemag, model.pt_count == 0, magnitude);
-}
-
-void track_distributed_scale(BeamModel& model, double larger) {
-    track_scale(model.di_maxmag, model.di_scalemag, model.di_count == 0, larger);
-}
-
-void track_moment_scale(BeamModel& model, double magnitude) {
-    track_scale(model.mo_maxmag, model.mo_scalemag, model.mo_count == 0, magnitude);
-}
-
-void rescan_point_scale(BeamModel& model) {
-    model.pt_maxmag = 0.0;
-    model.pt_scalemag = 0.0;
-    for (int j = 1; j <= model.pt_count; ++j) {
-        if (std::fabs(model.pt_mag[j]) > model.pt_maxmag)
-            model.pt_maxmag = std::fabs(model.pt_mag[j]);
-    }
-}
-
-void rescan_distributed_scale(BeamModel& model) {
-    model.di_maxmag = 0.0;
-    model.di_scalemag = 0.0;
-    for (int j = 1; j <= model.di_count; ++j) {
-        if (larger_intensity(model, j) > model.di_maxmag)
-            model.di_maxmag = larger_intensity(model, j);
-    }
-}
-
-void rescan_moment_scale(BeamModel& model) {
-    model.mo_maxmag = 0.0;
-    model.mo_scalemag = 0.0;
-    for (int j = 1; j <= model.mo_count; ++j) {
-        if (std::fabs(model.mo_mag[j]) > model.mo_maxmag)
-            model.mo_maxmag = std::fabs(model.mo_mag[j]);
-    }
-}
-
 Status remove_feature(BeamModel& model, int number) {
     const auto feature = lookup_feature(model, number);
     if (!feature) return Status::failure(kInvalidFeatureNumber);
+    const bool was_largest = holds_largest_magnitude(model, *feature);
     const int i = feature->index;
     switch (feature->kind) {
-        case FeatureKind::point_load: {
-            const bool was_largest = std::fabs(model.pt_mag[i]) == model.pt_maxmag;
+        case FeatureKind::point_load:
             model.pt_mag[i] = 0.0;
-            if (was_largest) rescan_point_scale(model);
             break;
-        }
-        case FeatureKind::distributed_load: {
-            const bool was_largest = larger_intensity(model, i) == model.di_maxmag;
+        case FeatureKind::distributed_load:
             model.di_mag_start[i] = 0.0;
             model.di_mag_end[i] = 0.0;
-            if (was_largest) rescan_distributed_scale(model);
             break;
-        }
-        case FeatureKind::moment: {
-            const bool was_largest = std::fabs(model.mo_mag[i]) == model.mo_maxmag;
+        case FeatureKind::moment:
             model.mo_mag[i] = 0.0;
-            if (was_largest) rescan_moment_scale(model);
             break;
-        }
         case FeatureKind::support:
             model.su_loc[i] = -1.0;
             break;
     }
+    if (was_largest) rescan_scale(model, feature->kind);
+    mark_results_stale(model);
     return Status::success();
 }
 
@@ -274,6 +230,7 @@ void clear_beam(BeamModel& model) {
     model.di_maxmag = model.di_scalemag = 0.0;
     model.resolution = kDefaultResolution;
     model.moment_of_inertia = model.elastic_modulus = model.fibre_distance = 0.0f;
+    mark_results_stale(model);
 }
 
 }  // namespace flexley

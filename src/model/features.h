@@ -41,7 +41,8 @@ int feature_number_of(const BeamModel& model, FeatureRef feature);
 inline constexpr const char* kInvalidFeatureNumber = "Invalid feature number.";
 
 // Adding appends to the kind's table and the feature list and keeps the drawing scale of the kind.
-// A full table or feature list refuses the addition and leaves the model as it was.
+// A full table or feature list, or a feature the geometry rules refuse (feature_rules.h), refuses
+// the addition and leaves the model as it was.
 Status add_point_load(BeamModel& model, double magnitude, double location, std::string loc_unit,
                       std::string mag_unit);
 Status add_distributed_load(BeamModel& model, double start, double end, double mag_start,
@@ -51,25 +52,12 @@ Status add_moment(BeamModel& model, double magnitude, double location, std::stri
 Status add_support(BeamModel& model, double location, std::string type, std::string loc_unit,
                    std::string mag_unit);
 
-// Scale tracking of an added or edited load: a magnitude at least as large as the kind's largest
-// becomes the largest, and the previous largest becomes the scale value. For a distributed load
-// pass the intensity of larger absolute value.
-void track_point_scale(BeamModel& model, double magnitude);
-void track_distributed_scale(BeamModel& model, double larger_intensity);
-void track_moment_scale(BeamModel& model, double magnitude);
-
-// Recomputes a kind's largest magnitude from its whole table and clears its scale value, as needed
-// when the load that held the largest magnitude is removed or edited.
-void rescan_point_scale(BeamModel& model);
-void rescan_distributed_scale(BeamModel& model);
-void rescan_moment_scale(BeamModel& model);
-
 // Neutralises feature `number` in its table (loads to zero magnitude, supports to position -1);
 // the feature number stays taken. Refuses a number that does not name a feature.
 Status remove_feature(BeamModel& model, int number);
 
 // Empties every table and the feature list; resolution back to 10000, I, E and c to 0.
-// Length, unit system, display precision and results are kept.
+// Length, unit system and display precision are kept; the results are kept but stale.
 void clear_beam(BeamModel& model);
 
 }  // namespace flexley

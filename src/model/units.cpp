@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "model/beam_settings.h"
 #include "model/features.h"
 
 namespace flexley {
@@ -81,6 +82,7 @@ void convert_units(BeamModel& model, std::string_view direction, const RedrawHoo
         convert_values(model, to_metric ? Factors{kInchToMetre, kPoundToNewton}
                                         : Factors{kMetreToInch, kNewtonToPound});
         rewrite_unit_codes(model);
+        mark_results_stale(model);
     }
     if (redraw) redraw(kPenDraw);
 }

@@ -22,10 +22,10 @@ inline constexpr int kPenErase = 15;
 inline constexpr int kPenDraw = 13;
 using RedrawHook = std::function<void(int pen_mode)>;
 
-// Converts every stored value to the other unit system and rewrites every feature's unit codes.
-// direction is "met_to_eng" or "eng_to_met"; any other text, or the system already in force,
-// converts nothing. The redraw hook, when given, is called with kPenErase first and kPenDraw
-// last, in every case.
+// Converts every stored value to the other unit system and rewrites every feature's unit codes;
+// the results, left in the old units, become stale. direction is "met_to_eng" or "eng_to_met"; any
+// other text, or the system already in force, converts nothing. The redraw hook, when given, is
+// called with kPenErase first and kPenDraw last, in every case.
 void convert_units(BeamModel& model, std::string_view direction, const RedrawHook& redraw = {});
 
 }  // namespace flexley

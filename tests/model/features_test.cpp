@@ -1,6 +1,10 @@
 // Feature list upkeep: numbering, scale tracking, capacities, removal and clearing.
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <functional>
+
+#include "model/feature_rules.h"
 #include "model/features.h"
 
 namespace flexley {
@@ -42,6 +46,7 @@ TEST(AddFeature, NumbersFeaturesAcrossKindsInOrderOfAdding) {
 
 TEST(AddFeature, TracksTheLargestMagnitudeOfEachKind) {
     BeamModel model;
+    model.beam_length = 10;
     struct Step {
         double magnitude;
         double maxmag;
@@ -65,6 +70,7 @@ TEST(AddFeature, TracksTheLargestMagnitudeOfEachKind) {
 
 TEST(AddFeature, RefusesBeyondCapacityAndLeavesTablesUnchanged) {
     BeamModel model;
+    model.beam_length = 100;
     for (int i = 0; i < kMaxSupports; ++i)
         ASSERT_TRUE(add_support(model, i, "simp", "", "").ok());
     const auto refused = add_support(model, 3, "simp", "", "");
@@ -85,8 +91,51 @@ TEST(AddFeature, RefusesBeyondCapacityAndLeavesTablesUnchanged) {
     EXPECT_EQ(model.mo_count, 0);
 }
 
+// The edges of the rules on a 240 in. beam with a cantilever at the left end and a removed simple
+// support at 120; the refused geometries are checked through the load file reader as well.
+TEST(AddFeature, AcceptsTheEdgesOfTheRulesAndRefusesNullMagnitudes) {
+    const double nan = std::nan("");
+    const struct {
+        const char* name;
+        std::function<Status(BeamModel&)> add;
+        const char* refusal;  // empty: accepted
+    } rows[] = {
+        {"load_at_left_end", [](auto& m) { return add_point_load(m, 5, 0, "in", "lb"); }, ""},
+        {"load_at_right_end", [](auto& m) { return add_point_load(m, -5, 240, "in", "lb"); }, ""},
+        {"moment_at_right_end", [](auto& m) { return add_moment(m, 5, 240, "in", "pi"); }, ""},
+        {"full_length_triangle",
+         [](auto& m) { return add_distributed_load(m, 0, 240, 0, 3, "in", "pi"); }, ""},
+        {"second_cantilever_at_right_end",
+         [](auto& m) { return add_support(m, 240, "cant", "", "lb"); }, ""},
+        {"where_a_removed_support_stood",
+         [](auto& m) { return add_support(m, 120, "simp", "in", "lb"); }, ""},
+        {"zero_load", [](auto& m) { return add_point_load(m, 0, 10, "in", "lb"); }, kNonZeroLoad},
+        {"zero_moment", [](auto& m) { return add_moment(m, 0, 10, "in", "pi"); }, kNonZeroMoment},
+        {"zero_intensities",
+         [](auto& m) { return add_distributed_load(m, 0, 10, 0, 0, "in", "pi"); }, kNonZeroLoad},
+        {"load_not_a_number", [&](auto& m) { return add_point_load(m, nan, 10, "in", "lb"); },
+         kInvalidLoadMagnitude},
+        {"location_not_a_number", [&](auto& m) { return add_moment(m, 1, nan, "in", "pi"); },
+         kInvalidMomentLocation},
+        {"infinite_intensity",
+         [](auto& m) { return add_distributed_load(m, 0, 10, 1, HUGE_VAL, "in", "pi"); },
+         kInvalidLoadMagnitude},
+    };
+    for (const auto& row : rows) {
+        BeamModel model;
+        model.beam_length = 240;
+        ASSERT_TRUE(add_support(model, 0, "cant", "", "lb").ok());
+        ASSERT_TRUE(add_support(model, 120, "simp", "in", "lb").ok());
+        ASSERT_TRUE(remove_feature(model, 2).ok());
+        const Status added = row.add(model);
+        EXPECT_EQ(added.message(), row.refusal) << row.name;
+        EXPECT_EQ(model.feature_count, *row.refusal ? 2 : 3) << row.name;
+    }
+}
+
 TEST(RemoveFeature, NeutralisesInPlaceAndRescansTheLargest) {
     BeamModel model;
+    model.beam_length = 10;
     ASSERT_TRUE(add_point_load(model, 10, 1, "in", "lb").ok());
     ASSERT_TRUE(add_point_load(model, -30, 2, "in", "lb").ok());
     ASSERT_TRUE(add_point_load(model, 20, 3, "in", "lb").ok());
