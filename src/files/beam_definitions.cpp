@@ -110,9 +110,9 @@ BeamDefinitions parse_beam_definitions(std::string_view text) {
 }
 
 std::optional<BeamDefinitions> read_beam_definitions(const std::string& path) {
-    const std::optional<std::string> text = read_text_file(path, kMaxDefinitionBytes);
-    if (!text) return std::nullopt;
-    return parse_beam_definitions(*text);
+    const TextRead file = read_text_file(path, kMaxDefinitionBytes);
+    if (!file.ok()) return std::nullopt;
+    return parse_beam_definitions(file.text);
 }
 
 }  // namespace flexley

@@ -57,9 +57,9 @@ PreferencesResult read_preferences_text(std::string_view text, std::string_view 
 }
 
 PreferencesResult open_preferences(const std::string& current_dir) {
-    const std::optional<std::string> text =
+    const TextRead file =
         read_text_file(path_in(current_dir, kPreferencesFileName), kMaxPreferencesBytes);
-    return read_preferences_text(text ? std::string_view(*text) : std::string_view(), current_dir);
+    return read_preferences_text(file.text, current_dir);
 }
 
 Status write_preferences(const Preferences& preferences, const std::string& current_dir) {

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -11,13 +10,20 @@
 
 namespace flexley {
 
-// The file's whole contents; nothing when it is missing, unreadable, not a regular file or larger
-// than `max_bytes` (no file this program reads is anywhere near that large when it is genuine).
-std::optional<std::string> read_text_file(const std::string& path, std::size_t max_bytes);
+struct TextRead {
+    std::string text;
+    std::string problem;  // why there is no text, as a sentence for the user; empty when read
+    bool ok() const { return problem.empty(); }
+};
+
+// The file's whole contents; a problem when it is missing, unreadable, not a regular file or
+// larger than `max_bytes` (no file this program reads is anywhere near that large when genuine).
+TextRead read_text_file(const std::string& path, std::size_t max_bytes);
 
 // Writes the text to a temporary file beside `path` and renames it over `path` once it is written
-// and closed, so a failure at any point leaves the previous file as it was. The failure message
-// names the path and the reason.
+// and on disk, so a failure at any point leaves the previous file as it was, and success is only
+// reported once the new file would survive a power cut. The failure message names the path and
+// the reason.
 Status replace_file(const std::string& path, std::string_view text);
 
 }  // namespace flexley

@@ -33,25 +33,28 @@ const char* const kDigits =
     "1,2,0.3333333,20000,#TRUE#,#FALSE#\r\n2.5E-07,0.3\r\n-8,0.2\r\n"
     "\"pt1\",\"in\",\"lb\"\r\n\"mo1\",\"ft\",\"pf\"\r\n";
 
-// The worked example with the first `from` replaced by `to`.
-std::string edited(const std::string& from, const std::string& to) {
-    std::string text = kWorkedExample;
+// The text (the worked example unless given) with the first `from` replaced by `to`.
+std::string edited(const std::string& from, const std::string& to,
+                   std::string text = kWorkedExample) {
     return text.replace(text.find(from), from.size(), to);
 }
 
-// A file with these table sizes, every support of one kind and every feature-list entry naming
-// point load 1.
-std::string file_of_counts(int pt, int di, int mo, int su, int features,
-                           const char* support = "5,\"simp\"\r\n") {
-    std::string text = std::to_string(pt) + "," + std::to_string(di) + "," + std::to_string(mo) +
-                       "," + std::to_string(su) + ",0,0,0,0," + std::to_string(features) +
-                       ",\r\n10,0,0,0,0,0,0\r\n0,0,0,10000,#FALSE#,#FALSE#\r\n";
-    const int counts[] = {pt, di, mo, su, features};
-    const char* const lines[] = {"1,5\r\n", "1,1,0,10\r\n", "1,5\r\n", support,
-                                 "\"pt1\",\"\",\"\"\r\n"};
-    for (int table = 0; table < 5; ++table)
-        for (int i = 0; i < counts[table]; ++i)
-            text += lines[table];
+// A 20 in. beam with every table full: supports at 0 to 19, each entry named by one feature.
+std::string full_tables() {
+    std::string text =
+        "50,50,50,20,0,0,0,0,170,\r\n20,0,0,0,0,0,0\r\n0,0,0,10000,#FALSE#,#FALSE#\r\n";
+    const std::pair<const char*, int> tables[] = {{"pt", 50}, {"di", 50}, {"mo", 50}, {"su", 20}};
+    for (const auto& [code, count] : tables) {
+        for (int i = 0; i < count; ++i) {
+            const std::string_view kind = code;
+            text += kind == "di"   ? "1,1,0,10\r\n"
+                    : kind == "su" ? std::to_string(i) + ",\"simp\"\r\n"
+                                   : "1,5\r\n";
+        }
+    }
+    for (const auto& [code, count] : tables)
+        for (int i = 1; i <= count; ++i)
+            text += "\"" + std::string(code) + std::to_string(i) + "\",\"\",\"\"\r\n";
     return text;
 }
 
@@ -132,13 +135,14 @@ TEST(LoadFile, WrittenBeamsReadBackWithPlaceholdersForRemovedFeatures) {
     }
 }
 
-TEST(LoadReader, TakesLooserSpellingsAndVersion1FilesAndRefusesEveryFaultWithAnEmptyBeam) {
+TEST(LoadReader, TakesLooserSpellingsAndVersion1FilesAndRefusesEveryFaultSayingWhere) {
     TempDir dir;
     std::filesystem::create_directory(dir.path / "directory");
+    const std::string removed_off_beam = edited("2000,2\r", "0,6\r");
     const struct {
         const char* name;
-        std::string text;           // empty: no file is written
-        std::string expected = "";  // empty: the file is refused
+        std::string text;      // empty: no file is written
+        std::string expected;  // the file as read back, or the detail of its refusal
         LoadFormat format = LoadFormat::current;
     } rows[] = {
         {"lf_only", std::regex_replace(kWorkedExample, std::regex("\r\n"), "\n"), kWorkedExample},
@@ -146,46 +150,122 @@ TEST(LoadReader, TakesLooserSpellingsAndVersion1FilesAndRefusesEveryFaultWithAnE
         {"spaces_before_fields", edited("2000,2\r", "  2000,   2\r"), kWorkedExample},
         {"quoted_numbers", edited("2000,2\r", "\"2000\",\"2\"\r"), kWorkedExample},
         {"exponent_and_leading_point", edited("2000,2\r", "2E+03,.2e1\r"), kWorkedExample},
-        {"full_tables", file_of_counts(50, 50, 50, 20, 170), file_of_counts(50, 50, 50, 20, 170)},
+        {"full_tables", full_tables(), full_tables()},
         {"digits", kDigits, kDigits},
+        // A removed load acts on nothing, wherever it stood.
+        {"removed_load_off_the_beam", removed_off_beam, removed_off_beam},
         // Version 1 knew only English units and uniform distributed loads.
         {"version1", kVersion1Text,
          "2,1,0,1,2,1,0,1,4,\r\n120,500,0,0,0,12,0\r\n6,100,29000000,10000,#FALSE#,#FALSE#\r\n"
          "0,30\r\n500,60\r\n12,12,0,120\r\n0,\"simp\"\r\n\"pt1\",\"ft\",\"lb\"\r\n"
          "\"pt2\",\"ft\",\"lb\"\r\n\"di1\",\"ft\",\"pf\"\r\n\"su1\",\"ft\",\"lb\"\r\n",
          LoadFormat::version1},
-        {"missing_file", ""},
-        {"directory", ""},
-        {"premature_end", kWorkedExample.substr(0, kWorkedExample.find("\"su2\""))},
-        {"point_loads_beyond_50", file_of_counts(51, 50, 50, 20, 170)},
-        {"distributed_beyond_50", file_of_counts(50, 51, 50, 20, 170)},
-        {"moments_beyond_50", file_of_counts(50, 50, 51, 20, 170)},
-        {"supports_beyond_20", file_of_counts(50, 50, 50, 21, 170)},
-        {"features_beyond_170", file_of_counts(50, 50, 50, 20, 171)},
-        {"negative_count", file_of_counts(0, 0, 0, 0, -1)},
-        {"word_for_number", edited("2000,2\r", "2000,two\r")},
-        {"nan", edited("2000,2\r", "nan,2\r")},
-        {"infinity", edited("2000,2\r", "2000,-inf\r")},
-        {"double_overflow", edited("2000,2\r", "1E+999,2\r")},
-        {"resolution_below_10", edited("10000", "9.99")},
-        {"resolution_above_200000", edited("10000", "200001")},
-        {"zero_length", edited("5,2000", "0,2000")},
-        {"unknown_support_kind", edited("\"simp\"", "\"fixed\"")},
-        {"index_beyond_table", edited("\"pt1\"", "\"pt2\"")},
-        {"unknown_kind", edited("\"pt1\"", "\"xx1\"")},
-        {"three_cantilevers", file_of_counts(0, 0, 0, 3, 0, "5,\"cant\"\r\n")},
+        {"missing_file", "", "The file does not exist."},
+        {"directory", "", "It is a folder, not a file."},
+        {"premature_end", kWorkedExample.substr(0, kWorkedExample.find("\"su2\"")),
+         "Line 9: the file ends where feature 3 was expected."},
+        {"text_after_the_end", kWorkedExample + "7\r\n", "Line 10: text follows the last feature."},
+        {"point_loads_beyond_50", "51,0,0,0,0,0,0,0,51,\r\n",
+         "Line 1: the number of point loads, 51, is not a whole number from 0 to 50."},
+        {"distributed_beyond_50", "0,51,0,0,0,0,0,0,51,\r\n",
+         "Line 1: the number of distributed loads, 51, is not a whole number from 0 to 50."},
+        {"moments_beyond_50", "0,0,51,0,0,0,0,0,51,\r\n",
+         "Line 1: the number of moments, 51, is not a whole number from 0 to 50."},
+        {"supports_beyond_20", "0,0,0,21,0,0,0,0,21,\r\n",
+         "Line 1: the number of supports, 21, is not a whole number from 0 to 20."},
+        {"features_beyond_170", "0,0,0,0,0,0,0,0,171,\r\n",
+         "Line 1: the number of features, 171, is not a whole number from 0 to 170."},
+        {"drawn_beyond_count", edited("1,0,0,2,1,", "1,0,0,2,2,"),
+         "Line 1: the number of point loads drawn, 2, is not a whole number from 0 to 1."},
+        {"fraction_count", edited("2,3,\r", "2,2.5,\r"),
+         "Line 1: the number of features, 2.5, is not a whole number from 0 to 170."},
+        {"tenth_field_filled", edited("2,3,\r", "2,3,x\r"),
+         "Line 1: the tenth field of the counts line, x, must be empty."},
+        {"zero_length", edited("5,2000", "0,2000"), "Line 2: the beam length, 0, is not above 0."},
+        {"single_overflow", edited("\n0,0,0,", "\n0,1E+39,0,"),
+         "Line 3: the moment of inertia, 1E+39, is too large for single precision."},
+        {"not_a_flag", edited("#TRUE#,#TRUE#", "#TRUE#,yes"),
+         "Line 3: the metric units flag, yes, is neither #TRUE# nor #FALSE#."},
+        {"word_for_number", edited("2000,2\r", "2000,two\r"),
+         "Line 4: the position of point load 1, two, is not a number."},
+        {"nan", edited("2000,2\r", "nan,2\r"),
+         "Line 4: the magnitude of point load 1, nan, is not a number."},
+        {"double_overflow", edited("2000,2\r", "1E+999,2\r"),
+         "Line 4: the magnitude of point load 1, 1E+999, is not a number."},
+        {"missing_field", edited("2000,2\r", "2000\r"),
+         "Line 4: the position of point load 1 is missing."},
+        {"extra_field", edited("2000,2\r", "2000,2,7\r"),
+         "Line 4: point load 1 has 3 fields instead of 2."},
+        {"unclosed_quote", edited("0,\"simp\"", "0,\"simp"),
+         "Line 5: support 1 has a quoted text without its closing quote, or with more text after "
+         "it before the next comma."},
+        {"unquoted_kind", edited("0,\"simp\"", "0,simp"),
+         "Line 5: the kind of support 1, simp, is not a quoted text."},
+        {"unknown_support_kind", edited("\"simp\"", "\"fixed\""),
+         "Line 5: support kind \"fixed\" is neither \"simp\" nor \"cant\"."},
+        {"index_beyond_table", edited("\"pt1\"", "\"pt2\""),
+         "Line 7: the entry of feature 1, \"pt2\", names point load 2, but the file holds 1."},
+        {"unknown_kind", edited("\"pt1\"", "\"xx1\""),
+         "Line 7: the entry of feature 1, \"xx1\", is not a kind code (pt, di, mo, su) followed "
+         "by a table index."},
+        {"unknown_unit", edited("\"m\",\"N\"", "\"yd\",\"N\""),
+         "Line 7: the position unit of feature 1, \"yd\", is not one of \"\", \"in\", \"ft\", "
+         "\"m\"."},
+        {"entry_named_twice", edited("\"su2\"", "\"su1\""),
+         "Line 9: the entry of feature 3, \"su1\", names support 1, which feature 2 already "
+         "names."},
+        {"entry_named_by_no_feature",
+         edited("2,3,\r", "2,2,\r", kWorkedExample.substr(0, kWorkedExample.find("\"su2\""))),
+         "Line 6: support 2 is named by no feature."},
     };
     for (const auto& row : rows) {
         const std::string path = dir.file(row.name);
         if (!row.text.empty()) write_test_file(path, row.text);
         const std::unique_ptr<BeamModel> model = sample_beam(true);
         const LoadResult result = read_load_configuration(path, *model, row.format);
-        if (!row.expected.empty()) {
+        if (result.status.ok()) {
             EXPECT_EQ(load_configuration_text(*model), row.expected) << row.name;
             continue;
         }
         EXPECT_EQ(result.status.message(), kFileAccessError) << row.name;
+        EXPECT_EQ(result.status.detail(), row.expected) << row.name;
         EXPECT_TRUE(result.label_groups.empty() && is_cleared(*model)) << row.name;
+    }
+}
+
+// Older files can hold a resolution the engine cannot use; it is brought into range with a note,
+// and the beam is read as it would be otherwise.
+TEST(LoadReader, BringsTheResolutionToTheNearestWholeAllowedValueWithANote) {
+    const struct {
+        const char* in_file;
+        float resolution;
+        const char* note;  // empty: no warning
+    } rows[] = {
+        {"5.5", 10,
+         "The file's resolution of 5.5 was changed to 10, the nearest whole number from "
+         "10 to 200,000."},
+        {"-3", 10,
+         "The file's resolution of -3 was changed to 10, the nearest whole number from "
+         "10 to 200,000."},
+        {"250000", 200000,
+         "The file's resolution of 250000 was changed to 200000, the nearest "
+         "whole number from 10 to 200,000."},
+        {"5000.4", 5000,
+         "The file's resolution of 5000.4 was changed to 5000, the nearest whole "
+         "number from 10 to 200,000."},
+        {"200000", 200000, ""},
+    };
+    for (const auto& row : rows) {
+        BeamModel model;
+        model.results_valid = model.results_partial = true;
+        const LoadResult result = read_load_configuration_text(
+            edited(",10000,", "," + std::string(row.in_file) + ","), model);
+        EXPECT_TRUE(result.status.ok()) << row.in_file;
+        EXPECT_EQ(result.status.is_warning(), *row.note != '\0') << row.in_file;
+        EXPECT_EQ(result.status.message(), row.note) << row.in_file;
+        EXPECT_EQ(model.resolution, row.resolution) << row.in_file;
+        EXPECT_EQ(result.label_groups.size(), 3u) << row.in_file;
+        EXPECT_FALSE(model.results_valid || model.results_partial) << row.in_file;
     }
 }
 
