@@ -36,12 +36,17 @@ std::string load_configuration_text(const BeamModel& model);
 // On failure the old file is untouched and the message says why.
 Status write_load_configuration(const BeamModel& model, const std::string& path);
 
-// Empties the beam (clear_beam) and reads the text into it. Any fault gives kFileAccessError and
-// an empty beam; the length and unit flags keep what was read before the fault.
+// Empties the beam (clear_beam) and reads the text into it. Any fault, a beam the geometry rules
+// refuse and a table entry that not exactly one feature names included, gives kFileAccessError
+// with the line and the reason as its detail ("Line 7: support position 300 lies outside the beam
+// (0 to 240).") and an empty beam; the length and unit flags keep what was read before the fault.
+// A resolution that is not a whole number from 10 to 200,000 is brought to the nearest one, and
+// the status is then a warning that says so.
 LoadResult read_load_configuration_text(std::string_view text, BeamModel& model,
                                         LoadFormat format = LoadFormat::current);
 
-// The same, from a file. A missing or unreadable file, or a directory, is a fault as well.
+// The same, from a file. A missing or unreadable file, or a directory, is a fault as well; its
+// detail says which.
 LoadResult read_load_configuration(const std::string& path, BeamModel& model,
                                    LoadFormat format = LoadFormat::current);
 

@@ -67,9 +67,13 @@ class LoadReader {
         : lines_(text), m_(model), format_(format) {}
 
     bool read() {
-        return read_counts() && read_scales() && read_settings() && read_point_loads() &&
-               read_distributed_loads() && read_moments() && read_supports() &&
-               read_feature_list() && every_entry_named() && nothing_follows();
+        return read_counts() && read_scales() && read_settings() &&
+               read_concentrated(FeatureKind::point_load, m_.pt_count, m_.pt_mag, m_.pt_loc,
+                                 check_point_load) &&
+               read_distributed_loads() &&
+               read_concentrated(FeatureKind::moment, m_.mo_count, m_.mo_mag, m_.mo_loc,
+                                 check_moment) &&
+               read_supports() && read_feature_list() && every_entry_named() && nothing_follows();
     }
 
     const std::string& problem() const { return problem_; }
@@ -135,26 +139,16 @@ class LoadReader {
         return read_boolean(m_.metric_units, "the metric units flag") && close_line();
     }
 
-    bool read_point_loads() {
-        for (int j = 1; j <= m_.pt_count; ++j) {
-            const bool read = open_entry({FeatureKind::point_load, j}, 2) &&
-                              read_double(m_.pt_mag[j], of("magnitude")) &&
-                              read_double(m_.pt_loc[j], of("position")) && close_line();
-            if (!read || !obeys_rules({FeatureKind::point_load, j},
-                                      check_point_load(m_, m_.pt_mag[j], m_.pt_loc[j]))) {
-                return false;
-            }
-        }
-        return true;
-    }
-
-    bool read_moments() {
-        for (int j = 1; j <= m_.mo_count; ++j) {
-            const bool read = open_entry({FeatureKind::moment, j}, 2) &&
-                              read_double(m_.mo_mag[j], of("magnitude")) &&
-                              read_double(m_.mo_loc[j], of("position")) && close_line();
-            if (!read || !obeys_rules({FeatureKind::moment, j},
-                                      check_moment(m_, m_.mo_mag[j], m_.mo_loc[j]))) {
+    // Point loads and moments share their line: magnitude, then position.
+    template <std::size_t N>
+    bool read_concentrated(FeatureKind kind, int count, std::array<double, N>& magnitudes,
+                           std::array<double, N>& positions,
+                           Status (*check)(const BeamModel&, double, double)) {
+        for (int j = 1; j <= count; ++j) {
+            const bool read = open_entry({kind, j}, 2) &&
+                              read_double(magnitudes[j], of("magnitude")) &&
+                              read_double(positions[j], of("position")) && close_line();
+            if (!read || !obeys_rules({kind, j}, check(m_, magnitudes[j], positions[j]))) {
                 return false;
             }
         }

@@ -58,10 +58,12 @@ Status set_section_properties(BeamModel& model, double inertia, double modulus, 
     return Status::success();
 }
 
+bool is_allowed_resolution(double resolution) {
+    return resolution_in_range(resolution) && std::floor(resolution) == resolution;
+}
+
 Status set_resolution(BeamModel& model, double resolution) {
-    if (!resolution_in_range(resolution) || std::floor(resolution) != resolution) {
-        return Status::failure(kInvalidResolution);
-    }
+    if (!is_allowed_resolution(resolution)) return Status::failure(kInvalidResolution);
     const auto n = static_cast<float>(resolution);
     if (n == model.resolution) return Status::success();
     model.resolution = n;

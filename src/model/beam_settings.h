@@ -28,6 +28,9 @@ Status set_beam_length(BeamModel& model, double length);
 // I, E and c, kept in single precision; 0 means "not entered".
 Status set_section_properties(BeamModel& model, double inertia, double modulus, double fibre);
 
+// A whole number from 10 to 200,000: the grid counts whole intervals and the result arrays hold
+// 200,001 points.
+bool is_allowed_resolution(double resolution);
 Status set_resolution(BeamModel& model, double resolution);
 
 // The whole number from 10 to 200,000 nearest to `resolution`, for a value a file brings.

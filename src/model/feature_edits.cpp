@@ -1,7 +1,9 @@
 // Editing features in place: validation first, then the table entry, the unit codes and the scale.
 #include "model/feature_edits.h"
 
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <optional>
 #include <utility>
 
@@ -37,19 +39,35 @@ void set_units(BeamModel& model, int number, std::string loc_unit, std::string m
     model.mag_unit[number] = std::move(mag_unit);
 }
 
+struct Concentrated {
+    double magnitude;
+    double location;
+};
+
+// Point loads and moments: a magnitude at a position.
+template <std::size_t N>
+Status edit_concentrated(BeamModel& model, int number, FeatureKind kind,
+                         Status (*check)(const BeamModel&, double, double),
+                         std::array<double, N>& magnitudes, std::array<double, N>& locations,
+                         Concentrated values, std::string loc_unit, std::string mag_unit) {
+    const auto feature = live_feature(model, number, kind);
+    if (!feature) return Status::failure(kInvalidFeatureNumber);
+    if (auto valid = check(model, values.magnitude, values.location); !valid.ok()) return valid;
+    rewrite_load(model, *feature, values.magnitude, [&] {
+        magnitudes[feature->index] = values.magnitude;
+        locations[feature->index] = values.location;
+    });
+    set_units(model, number, std::move(loc_unit), std::move(mag_unit));
+    return Status::success();
+}
+
 }  // namespace
 
 Status edit_point_load(BeamModel& model, int number, double magnitude, double location,
                        std::string loc_unit, std::string mag_unit) {
-    const auto feature = live_feature(model, number, FeatureKind::point_load);
-    if (!feature) return Status::failure(kInvalidFeatureNumber);
-    if (auto valid = check_point_load(model, magnitude, location); !valid.ok()) return valid;
-    rewrite_load(model, *feature, magnitude, [&] {
-        model.pt_mag[feature->index] = magnitude;
-        model.pt_loc[feature->index] = location;
-    });
-    set_units(model, number, std::move(loc_unit), std::move(mag_unit));
-    return Status::success();
+    return edit_concentrated(model, number, FeatureKind::point_load, check_point_load, model.pt_mag,
+                             model.pt_loc, {magnitude, location}, std::move(loc_unit),
+                             std::move(mag_unit));
 }
 
 Status edit_distributed_load(BeamModel& model, int number, double start, double end,
@@ -74,15 +92,9 @@ Status edit_distributed_load(BeamModel& model, int number, double start, double 
 
 Status edit_moment(BeamModel& model, int number, double magnitude, double location,
                    std::string loc_unit, std::string mag_unit) {
-    const auto feature = live_feature(model, number, FeatureKind::moment);
-    if (!feature) return Status::failure(kInvalidFeatureNumber);
-    if (auto valid = check_moment(model, magnitude, location); !valid.ok()) return valid;
-    rewrite_load(model, *feature, magnitude, [&] {
-        model.mo_mag[feature->index] = magnitude;
-        model.mo_loc[feature->index] = location;
-    });
-    set_units(model, number, std::move(loc_unit), std::move(mag_unit));
-    return Status::success();
+    return edit_concentrated(model, number, FeatureKind::moment, check_moment, model.mo_mag,
+                             model.mo_loc, {magnitude, location}, std::move(loc_unit),
+                             std::move(mag_unit));
 }
 
 Status edit_support(BeamModel& model, int number, double location, std::string loc_unit) {
