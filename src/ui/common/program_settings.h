@@ -1,0 +1,29 @@
+// What the program keeps for its whole run besides the beam: the preferences and where files are.
+#pragma once
+
+#include <string>
+
+#include "files/preferences.h"
+#include "ui/common/prompts.h"
+
+namespace flexley {
+
+struct ProgramSettings {
+    Preferences preferences;
+    std::string preferences_dir;      // the folder that holds beams.prf
+    std::string start_dir;            // the folder the program was started in
+    std::string shipped_definitions;  // the beam definition file installed with the program
+    std::string last_dir;             // the folder a file dialog showed last
+};
+
+// Reads beams.prf. Without a readable file the user is told so and the defaults hold: English,
+// working files in the start folder, the shipped beam definition file.
+void load_preferences(ProgramSettings& settings, Prompts& prompts);
+
+// Writes beams.prf, telling the user when that fails.
+void save_preferences(const ProgramSettings& settings, Prompts& prompts);
+
+// The beam definition file in use: the preferred one, or the shipped one when none is set.
+std::string beam_definition_file(const ProgramSettings& settings);
+
+}  // namespace flexley

@@ -1,0 +1,339 @@
+// The main window "beam", the Loading Screen: the beam's picture and labels, and every command.
+#include "ui/loading/loading_screen.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QScrollArea>
+
+#include "analysis/reaction_text.h"
+#include "analysis/run.h"
+#include "model/beam_settings.h"
+#include "model/display.h"
+#include "model/features.h"
+#include "model/typed_number.h"
+#include "model/units.h"
+#include "ui/common/picture_view.h"
+#include "ui/loading/beam_picture.h"
+#include "ui/loading/prompt_answers.h"
+
+namespace flexley {
+namespace {
+
+QString text_of(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+ScreenGeometry geometry_for(const QRect& work_area, const QWidget& window) {
+    const WorkArea units =
+        work_area_in_units(work_area.width(), work_area.height(),
+                           DrawingUnitMapping::for_device(window).dots_per_inch());
+    return screen_geometry(units.work_width, units.work_height);
+}
+
+// "20 ft.  ": the beam length as Reinitialize quotes it, in the unit the beam is shown in.
+QString reinitialize_length_text(const BeamModel& model) {
+    if (model.metric_units)
+        return text_of(display_number(model.beam_length, model.sig_figs) + " m.  ");
+    if (model.positions_in_inches) {
+        return text_of(display_number(model.beam_length, model.sig_figs) + " in.  ");
+    }
+    return text_of(display_number(model.beam_length / kFootToInch, model.sig_figs) + " ft.  ");
+}
+
+}  // namespace
+
+LoadingScreen::LoadingScreen(BeamModel& model, ProgramSettings& settings, Prompts& prompts,
+                             const QRect& work_area, QWidget* parent)
+    : QMainWindow(parent),
+      model_(model),
+      settings_(settings),
+      prompts_(prompts),
+      work_area_(work_area),
+      geometry_(geometry_for(work_area, *this)),
+      view_(new PictureView),
+      labels_(label_measure(*view_)),
+      label_widgets_(*view_) {
+    setObjectName("beam");
+    setFont(label_font(false));
+    // The picture keeps the size of the work area it was laid out for; a smaller window scrolls.
+    const DrawingUnitMapping mapping = DrawingUnitMapping::for_device(*this);
+    view_->setFixedSize(
+        mapping.to_pixel_rect(0, 0, geometry_.work_width, geometry_.work_height).size());
+    auto* scroll = new QScrollArea;
+    scroll->setObjectName("picture_scroll");
+    scroll->setWidget(view_);
+    setCentralWidget(scroll);
+    build_menus();
+    update_title();
+    update_unit_commands();
+}
+
+template <typename Slot>
+QAction* LoadingScreen::add_command(QMenu* menu, const char* name, const QString& caption,
+                                    Slot slot, const QKeySequence& shortcut) {
+    QAction* action = add_item(menu, name, caption, shortcut);
+    connect(action, &QAction::triggered, this, slot);
+    return action;
+}
+
+QMenu* LoadingScreen::add_menu(const char* name, const QString& caption) {
+    QMenu* menu = menuBar()->addMenu(caption);
+    menu->setObjectName(name);
+    return menu;
+}
+
+// Items whose window is not built yet stay in the menu, disabled, so the menu is complete.
+QAction* LoadingScreen::add_item(QMenu* menu, const char* name, const QString& caption,
+                                 const QKeySequence& shortcut) {
+    QAction* action = menu->addAction(caption);
+    action->setObjectName(name);
+    action->setShortcut(shortcut);
+    action->setEnabled(false);
+    return action;
+}
+
+void LoadingScreen::build_menus() {
+    QMenu* file = add_menu("Filemenu", "&File");
+    add_command(file, "saveloadcfg", "&Save Load Configuration", &LoadingScreen::save,
+                QKeySequence("Ctrl+S"))
+        ->setEnabled(true);
+    add_command(file, "saveas", "Save &As", &LoadingScreen::open_save_dialog)->setEnabled(true);
+    add_command(
+        file, "openloadcfg", "&Open Load Configuration",
+        [this] { open_read_dialog("getload", "Retrieve Load Configuration", LoadFormat::current); },
+        QKeySequence("Ctrl+O"))
+        ->setEnabled(true);
+    add_command(file, "importloadcfg", "&Import Version 1 File", [this] {
+        open_read_dialog("importload", "Import Version 1 File", LoadFormat::version1);
+    })->setEnabled(true);
+    add_item(file, "printload", "&Print Load Configuration", QKeySequence("Ctrl+P"));
+    add_item(file, "file_preferences", "P&references");
+    add_command(file, "quitflexley", "E&xit Flexley", &QWidget::close, QKeySequence("Ctrl+X"))
+        ->setEnabled(true);
+
+    QMenu* feature = add_menu("featmenu", "F&eature");
+    QMenu* add_feature = feature->addMenu("&Add Feature");
+    add_feature->setObjectName("addfeature");
+    add_item(add_feature, "addpointload", "Add &Point Load", QKeySequence("Ctrl+F1"));
+    add_item(add_feature, "adddistload", "Add &Dist. Load", QKeySequence("Ctrl+F2"));
+    add_item(add_feature, "addmoment", "Add &Moment", QKeySequence("Ctrl+F3"));
+    add_item(add_feature, "addsupport", "Add &Support", QKeySequence("Ctrl+F4"));
+    add_item(feature, "editfeature", "&Edit Feature", QKeySequence("Ctrl+E"));
+    add_command(feature, "removefeature", "&Remove Feature", &LoadingScreen::remove_feature_command,
+                QKeySequence(Qt::Key_Delete))
+        ->setEnabled(true);
+
+    QMenu* beam = add_menu("beammenu", "&Beam");
+    add_item(beam, "beamproperties", "&Properties");
+    add_command(beam, "reinitialize", "&Reinitialize", &LoadingScreen::reinitialize)
+        ->setEnabled(true);
+
+    QMenu* calculate_menu = add_menu("calcmenu", "&Calculate");
+    add_command(
+        calculate_menu, "runcalc", "&Calculate Stress and Deflection", [this] { calculate(false); },
+        QKeySequence("Ctrl+R"))
+        ->setEnabled(true);
+    add_command(calculate_menu, "supreact", "Calculate Support &Reactions Only", [this] {
+        calculate(true);
+    })->setEnabled(true);
+    add_command(calculate_menu, "changerltn", "C&hange Resolution",
+                &LoadingScreen::change_resolution)
+        ->setEnabled(true);
+
+    QMenu* display = add_menu("displayprops", "&Display");
+    add_command(display, "redrawscreen", "&Redraw", [this] {
+        redraw_screen(kPenDraw);
+    })->setEnabled(true);
+    add_command(display, "significantfigs", "Change Display &Significant Figures",
+                &LoadingScreen::change_significant_figures)
+        ->setEnabled(true);
+
+    QMenu* units = add_menu("units", "&Units");
+    to_metric_ =
+        add_command(units, "metricunits", "Convert to &Metric", [this] { convert_to(true); });
+    to_english_ =
+        add_command(units, "englishunits", "Convert to &English", [this] { convert_to(false); });
+
+    QMenu* help = add_menu("helpflexley", "&Help");
+    add_item(help, "docflexley", "&Documentation", QKeySequence(Qt::Key_F1));
+    add_item(help, "aboutflexley", "&About Flexley");
+}
+
+void LoadingScreen::start(const std::optional<std::string>& load_file) {
+    load_preferences(settings_, prompts_);
+    if (!settings_.preferences.working_files_path.empty()) {
+        settings_.last_dir = settings_.preferences.working_files_path;
+    }
+    if (!load_file) {
+        open_start_dialog(StartMode::program_start);
+        return;
+    }
+    StartDialog defaults(model_, settings_.preferences, prompts_, StartMode::program_start);
+    defaults.confirm();
+    show_beam();
+    if (!open_load_file(*load_file, LoadFormat::current)) {
+        hide();
+        open_start_dialog(StartMode::program_start);
+    }
+}
+
+void LoadingScreen::open_start_dialog(StartMode mode) {
+    auto* dialog = new StartDialog(model_, settings_.preferences, prompts_, mode, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->adjustSize();
+    dialog->move(work_area_.center() - dialog->rect().center());
+    connect(dialog, &QDialog::accepted, this, &LoadingScreen::show_beam);
+    connect(dialog, &StartDialog::retrieve_requested, this, [this] {
+        open_read_dialog("getload", "Retrieve Load Configuration", LoadFormat::current);
+    });
+    connect(dialog, &QDialog::rejected, this, [this] {
+        // Closing the first dialog ends the program: there is no beam to work on. Closing it at
+        // Reinitialize keeps the emptied beam with its old length, as answering No does.
+        if (!isVisible()) {
+            emit finished();
+        } else {
+            redraw_screen(kPenDraw);
+        }
+    });
+    dialog->show();
+}
+
+void LoadingScreen::show_beam() {
+    if (!isVisible()) {
+        setGeometry(work_area_);
+        showMaximized();
+    }
+    redraw_screen(kPenDraw);
+    update_title();
+    update_unit_commands();
+}
+
+void LoadingScreen::redraw_screen(int pen_mode) {
+    view_->show_picture(flexley::redraw_screen(model_, geometry_, pen_mode, labels_));
+    show_labels();
+}
+
+// Reaction texts stand only while the results they come from are those of this beam.
+void LoadingScreen::show_labels() {
+    labels_.blank_reaction_texts();
+    if (model_.results_valid || model_.results_partial) {
+        labels_.show_reaction_texts(show_reactions(model_));
+    }
+    label_widgets_.show(labels_);
+}
+
+void LoadingScreen::update_title() {
+    setWindowTitle(model_.current_file.empty()
+                       ? QString(kLoadingScreenTitle)
+                       : QString(kLoadingScreenTitle) + ": " + text_of(model_.current_file));
+}
+
+void LoadingScreen::update_unit_commands() {
+    to_metric_->setEnabled(!model_.metric_units);
+    to_english_->setEnabled(model_.metric_units);
+}
+
+void LoadingScreen::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) update_unit_commands();
+    QMainWindow::changeEvent(event);
+}
+
+void LoadingScreen::closeEvent(QCloseEvent* event) {
+    save_preferences(settings_, prompts_);
+    event->accept();
+    emit finished();
+}
+
+void LoadingScreen::remove_feature_command() {
+    const QString answer = prompts_.text("Enter feature number to remove");
+    if (answer.isEmpty()) return;
+    const std::optional<int> number =
+        feature_number_answer(answer.toStdString(), model_.feature_count);
+    if (!number) {
+        prompts_.message(kInvalidFeatureNumberMessage);
+        return;
+    }
+    redraw_screen(kPenErase);
+    labels_.blank_group(*number);
+    remove_feature(model_, *number);
+    labels_.restack_labels(model_, geometry_, model_.feature_count + 1);
+    redraw_screen(kPenDraw);
+}
+
+void LoadingScreen::reinitialize() {
+    redraw_screen(kPenErase);
+    clear_beam(model_);
+    mark_results_stale(model_);
+    labels_.clear();
+    model_.current_file.clear();
+    update_title();
+    const QString question = "Current beam length is " + reinitialize_length_text(model_) +
+                             "Do you wish to change beam length?";
+    if (prompts_.question(question)) {
+        open_start_dialog(StartMode::reinitialize);
+    } else {
+        redraw_screen(kPenDraw);
+    }
+}
+
+void LoadingScreen::calculate(bool reactions_only) {
+    const ContinueQuestion keep_iterating = [this] {
+        return prompts_.question(kNonConvergenceQuestion, kNonConvergenceTitle);
+    };
+    const Status status = reactions_only ? run_reactions_only(model_, keep_iterating)
+                                         : run_calculation(model_, keep_iterating);
+    if (!status.message().empty()) {
+        prompts_.message(text_of(status.message()), kProgramTitle, text_of(status.detail()));
+    }
+    show_labels();
+}
+
+void LoadingScreen::change_resolution() {
+    const QString current = text_of(number_text(model_.resolution));
+    const QString prompt = "Enter value for resolution. \nCurrent value of resolution is " +
+                           current +
+                           ".\nChoose value between 10 and 200,000.\n"
+                           "5,000 to 50,000 is standard.";
+    const QString answer = prompts_.text(prompt, "Change Resolution", current);
+    if (answer.isEmpty()) return;
+    const std::optional<double> value = typed_number(answer.toStdString());
+    if (value && *value > kMaxResolution) {
+        prompts_.message(kResolutionTooLarge);
+        set_resolution(model_, kMaxResolution);
+    } else if (const Status set =
+                   value ? set_resolution(model_, *value) : Status::failure(kInvalidResolution);
+               !set.ok()) {
+        prompts_.message(text_of(set.message()));
+    }
+    show_labels();
+}
+
+void LoadingScreen::change_significant_figures() {
+    const QString prompt = "Current number of display significant figures is " +
+                           QString::number(model_.sig_figs) +
+                           ".  Enter desired number of significant figures.\n"
+                           "This control is for display only and does not affect internal "
+                           "calculations.";
+    const QString answer = prompts_.text(prompt, "Display Significant Figures");
+    if (answer.isEmpty()) return;
+    const std::optional<int> figures = significant_figures_answer(answer.toStdString());
+    if (!figures) {
+        prompts_.message(kSignificantFiguresRefused);
+        return;
+    }
+    redraw_screen(kPenErase);
+    model_.sig_figs = static_cast<int16_t>(*figures);
+    redraw_screen(kPenDraw);
+    labels_.relabel_features(model_);
+    show_labels();
+}
+
+void LoadingScreen::convert_to(bool metric) {
+    convert_units(model_, metric ? "eng_to_met" : "met_to_eng",
+                  [this](int pen_mode) { redraw_screen(pen_mode); });
+    update_unit_commands();
+    labels_.relabel_features(model_);
+    show_labels();
+}
+
+}  // namespace flexley

@@ -1,0 +1,102 @@
+// The main window "beam", the Loading Screen: the beam's picture and labels, and every command.
+#pragma once
+
+#include <QMainWindow>
+#include <QRect>
+#include <optional>
+#include <string>
+
+#include "files/load_file.h"
+#include "model/beam_model.h"
+#include "ui/common/program_settings.h"
+#include "ui/common/prompts.h"
+#include "ui/loading/label_groups.h"
+#include "ui/loading/label_widgets.h"
+#include "ui/loading/screen_geometry.h"
+#include "ui/loading/start_dialog.h"
+
+class QAction;
+class QFileDialog;
+class QMenu;
+
+namespace flexley {
+
+class PictureView;
+
+inline constexpr const char* kLoadingScreenTitle = "Flexley: Loading Screen";
+inline constexpr const char* kResolutionTooLarge =
+    "Resolution too large.\nResolution set to 200,000.";
+
+class LoadingScreen final : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    // `work_area` is the screen's available area in pixels: the whole layout follows from it,
+    // and the window opens maximized on it.
+    LoadingScreen(BeamModel& model, ProgramSettings& settings, Prompts& prompts,
+                  const QRect& work_area, QWidget* parent = nullptr);
+
+    // The program's start: the preferences, then the start dialog, or, with a load file, the
+    // beam read from it as "Retrieve Load File" reads it (the start dialog when that fails).
+    void start(const std::optional<std::string>& load_file = std::nullopt);
+
+    // Reads a load file into the beam, as the Open and Import dialogs do; false, with the user
+    // told why, when it cannot be read, the beam then being empty.
+    bool open_load_file(const std::string& path, LoadFormat format);
+    // Writes the beam to `path`, which becomes the current file; false, told, when that fails.
+    bool save_load_file(const std::string& path);
+
+    const ScreenGeometry& geometry() const { return geometry_; }
+    const FeatureLabels& labels() const { return labels_; }
+    PictureView& picture_view() { return *view_; }
+
+  signals:
+    // The window has closed and written the preferences: the program ends.
+    void finished();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void build_menus();
+    QMenu* add_menu(const char* name, const QString& caption);
+    QAction* add_item(QMenu* menu, const char* name, const QString& caption,
+                      const QKeySequence& shortcut = {});
+    template <typename Slot>
+    QAction* add_command(QMenu* menu, const char* name, const QString& caption, Slot slot,
+                         const QKeySequence& shortcut = {});
+
+    void open_start_dialog(StartMode mode);
+    void show_beam();
+    void redraw_screen(int pen_mode);
+    void show_labels();
+    void update_title();
+    void update_unit_commands();
+
+    void save();
+    void open_save_dialog();
+    void open_read_dialog(const char* name, const QString& caption, LoadFormat format);
+    QFileDialog* file_dialog(const char* name, const QString& caption);
+    void save_chosen_file(const QString& chosen);
+
+    void remove_feature_command();
+    void reinitialize();
+    void calculate(bool reactions_only);
+    void change_resolution();
+    void change_significant_figures();
+    void convert_to(bool metric);
+
+    BeamModel& model_;
+    ProgramSettings& settings_;
+    Prompts& prompts_;
+    QRect work_area_;
+    ScreenGeometry geometry_;
+    PictureView* view_;
+    FeatureLabels labels_;
+    LabelWidgets label_widgets_;
+    QAction* to_metric_ = nullptr;
+    QAction* to_english_ = nullptr;
+};
+
+}  // namespace flexley

@@ -1,0 +1,83 @@
+// The Loading Screen's menus against the design's table, and the unit commands' enabling.
+#include <QMenu>
+#include <QMenuBar>
+
+#include "ui/loading/loading_fixture.h"
+
+namespace flexley::testing {
+namespace {
+
+struct MenuRow {
+    const char* menu;
+    const char* name;
+    const char* caption;
+    const char* shortcut;
+    bool enabled;  // in English units, before the windows of later work exist
+};
+
+// Every item of the design's menu table, in menu order.
+const MenuRow kMenuTable[] = {
+    {"Filemenu", "saveloadcfg", "&Save Load Configuration", "Ctrl+S", true},
+    {"Filemenu", "saveas", "Save &As", "", true},
+    {"Filemenu", "openloadcfg", "&Open Load Configuration", "Ctrl+O", true},
+    {"Filemenu", "importloadcfg", "&Import Version 1 File", "", true},
+    {"Filemenu", "printload", "&Print Load Configuration", "Ctrl+P", false},
+    {"Filemenu", "file_preferences", "P&references", "", false},
+    {"Filemenu", "quitflexley", "E&xit Flexley", "Ctrl+X", true},
+    {"addfeature", "addpointload", "Add &Point Load", "Ctrl+F1", false},
+    {"addfeature", "adddistload", "Add &Dist. Load", "Ctrl+F2", false},
+    {"addfeature", "addmoment", "Add &Moment", "Ctrl+F3", false},
+    {"addfeature", "addsupport", "Add &Support", "Ctrl+F4", false},
+    {"featmenu", "editfeature", "&Edit Feature", "Ctrl+E", false},
+    {"featmenu", "removefeature", "&Remove Feature", "Del", true},
+    {"beammenu", "beamproperties", "&Properties", "", false},
+    {"beammenu", "reinitialize", "&Reinitialize", "", true},
+    {"calcmenu", "runcalc", "&Calculate Stress and Deflection", "Ctrl+R", true},
+    {"calcmenu", "supreact", "Calculate Support &Reactions Only", "", true},
+    {"calcmenu", "changerltn", "C&hange Resolution", "", true},
+    {"displayprops", "redrawscreen", "&Redraw", "", true},
+    {"displayprops", "significantfigs", "Change Display &Significant Figures", "", true},
+    {"units", "metricunits", "Convert to &Metric", "", true},
+    {"units", "englishunits", "Convert to &English", "", false},
+    {"helpflexley", "docflexley", "&Documentation", "F1", false},
+    {"helpflexley", "aboutflexley", "&About Flexley", "", false},
+};
+
+using MenuTest = LoadingFixture;
+
+TEST_F(MenuTest, EveryItemOfTheTableStandsInItsMenu) {
+    const QStringList menus = {"&File",    "F&eature", "&Beam", "&Calculate",
+                               "&Display", "&Units",   "&Help"};
+    QStringList shown;
+    for (QAction* action : window().menuBar()->actions())
+        shown << action->text();
+    EXPECT_EQ(shown, menus);
+    EXPECT_EQ(child<QMenu>(window(), "featmenu").actions().front()->text(), "&Add Feature");
+
+    for (const MenuRow& row : kMenuTable) {
+        SCOPED_TRACE(row.name);
+        const QAction& action = child<QAction>(window(), row.name);
+        EXPECT_TRUE(child<QMenu>(window(), row.menu).actions().contains(&action));
+        EXPECT_EQ(action.text(), row.caption);
+        EXPECT_EQ(action.shortcut().toString(), row.shortcut);
+        EXPECT_EQ(action.isEnabled(), row.enabled);
+    }
+}
+
+TEST_F(MenuTest, ExactlyOneUnitCommandIsEnabledAfterEachConversion) {
+    started();
+    const auto enabled = [this] {
+        return std::pair(child<QAction>(window(), "metricunits").isEnabled(),
+                         child<QAction>(window(), "englishunits").isEnabled());
+    };
+    EXPECT_EQ(enabled(), std::pair(true, false));
+    trigger("metricunits");
+    EXPECT_TRUE(model.metric_units);
+    EXPECT_EQ(enabled(), std::pair(false, true));
+    trigger("englishunits");
+    EXPECT_FALSE(model.metric_units);
+    EXPECT_EQ(enabled(), std::pair(true, false));
+}
+
+}  // namespace
+}  // namespace flexley::testing
