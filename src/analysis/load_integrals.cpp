@@ -94,4 +94,14 @@ double load_deflection_integral(const BeamModel& model, double x) {
     return repeated_load_integral(model, x, 2);
 }
 
+double moment_integral(const BeamModel& model, double x, int times) {
+    double total = repeated_load_integral(model, x, times);
+    const int m = model.cantilever_count;
+    for (int j = 1; j <= used_entries(model.reaction_count, kMaxSupports); ++j) {
+        total += model.reaction[m + j] * ramp(x - model.reaction_pos[j], times + 1);
+    }
+    if (m > 0) total -= model.reaction[1] * ramp(x, times);
+    return total;
+}
+
 }  // namespace flexley

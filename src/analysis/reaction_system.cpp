@@ -123,6 +123,8 @@ void collect_supports(BeamModel& model) {
             swap_supports(model, n, n - 1);
         }
     }
+    // With two fixed supports the system needs the one at x = 0 first, whichever was added first.
+    if (m == 2 && model.reaction_pos[1] != 0.0) swap_supports(model, 1, n);
     model.reaction_count = static_cast<int16_t>(n);
     model.cantilever_count = static_cast<int16_t>(m);
 }

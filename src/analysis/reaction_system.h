@@ -18,7 +18,8 @@ struct ReactionSystem {
 };
 
 // Fills reaction_pos, reaction_feature, reaction_count and cantilever_count from the active
-// supports in feature order: the first cantilever support first, the second one last.
+// supports in feature order, a fixed support first and, of two, the one at x = 0 first and the
+// other last.
 void collect_supports(BeamModel& model);
 
 // Fills the matrix of `system` and writes the right-hand side into model.reaction, for the

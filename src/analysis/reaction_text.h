@@ -13,16 +13,8 @@ struct ReactionText {
     std::string text;  // "1250 lb." or, for a fixed support, "1250 lb., 30000 lb.-in."
 };
 
-// With no cantilever support: every support shows its force.
-std::vector<ReactionText> show_reactions_simple(const BeamModel& model);
-
-// With one: the fixed support shows force and moment, every other support its force.
-std::vector<ReactionText> show_reactions_one_cantilever(const BeamModel& model);
-
-// With two: both fixed supports show force and moment, every other support its force.
-std::vector<ReactionText> show_reactions_two_cantilevers(const BeamModel& model);
-
-// The texts for the reactions of the last run, by its number of cantilever supports.
+// Every support's force, a fixed support's force and then its moment, in system order. Nothing
+// while the results are stale, so a support never shows the reaction of an earlier beam.
 std::vector<ReactionText> show_reactions(const BeamModel& model);
 
 }  // namespace flexley

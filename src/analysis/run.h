@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "model/beam_model.h"
+#include "model/beam_settings.h"
 #include "model/status.h"
 
 namespace flexley {
@@ -15,29 +16,36 @@ inline constexpr const char* kNonConvergenceTitle = "Warning";
 inline constexpr const char* kNonConvergenceQuestion =
     "Solution does not appear to be converging. 100 iterations complete.  "
     "Continue for another 100 iterations?";
+// The warning of a run whose iteration was stopped: the reactions, moments and stresses are
+// right, slope and deflection are not.
+inline constexpr const char* kNotConverged =
+    "The deflection calculation was stopped before it converged.  Reactions, moments and "
+    "stresses are complete, but slope and deflection are those of the last pass and may be "
+    "wrong.";
 
 inline constexpr const char* kMissingProperties =
     "Enter beam properties before calculating deflection.";
 inline constexpr const char* kUnstableBeam = "Beam is unstable.  Add more support.";
 inline constexpr const char* kNoSupport = "Add support to beam before calculating reactions.";
 inline constexpr const char* kSingularMatrix = "Singular matrix in routine LU_decomp.";
-// The result arrays hold 200,001 points and the reaction system two fixed supports, so the
-// engine refuses to run outside those limits whatever the model says.
-inline constexpr const char* kResolutionOutOfRange = "Resolution must be between 10 and 200,000.";
-inline constexpr const char* kTooManyCantilevers =
+// The reaction system has moment unknowns for fixed supports at the two ends only.
+inline constexpr const char* kCantileverPlacement =
     "Cantilever supports may only be placed at the ends of the beam.";
 
-// "Calculate Stress and Deflection": reactions, moment, stress, slope and deflection.
-// A failed precondition or a singular reaction system returns its message; results_valid is set
-// only by a completed run. Allocates nothing on success. The reaction texts are made afterwards
-// by the caller (reaction_text.h), so that the run itself needs no strings.
+// "Calculate Stress and Deflection": reactions, moment, stress, slope and deflection, by the
+// model's integration method. A failed precondition returns its message and changes nothing.
+// Once the engine starts, the results are stale until it completes: a singular reaction system
+// returns its message with the results stale; a completed run makes them valid, or partial with
+// a warning status when the non-convergence question was answered No. Allocates nothing. The
+// reaction texts are made afterwards by the caller (reaction_text.h).
 Status run_calculation(BeamModel& model, const ContinueQuestion& continue_iterating);
 
 // "Calculate Support Reactions Only": no beam-property check, no moments or stresses; the
 // integration works on the moment array left by the previous run.
 Status run_reactions_only(BeamModel& model, const ContinueQuestion& continue_iterating);
 
-// The results window's recalculation after a unit switch: the engine steps without preconditions.
+// The results window's recalculation after a unit switch: the engine steps without the
+// beam-property and support checks.
 Status recalculate(BeamModel& model, const ContinueQuestion& continue_iterating);
 
 }  // namespace flexley
