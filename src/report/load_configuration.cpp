@@ -5,6 +5,7 @@
 #include <array>
 #include <string_view>
 
+#include "analysis/support_reactions.h"
 #include "model/features.h"
 #include "model/limits.h"
 #include "model/units.h"
@@ -114,30 +115,24 @@ void append_moments(std::vector<std::string>& lines, const BeamModel& model) {
                         model.mo_loc, moment_load);
 }
 
-// The reaction vector holds the cantilever moments first (the first cantilever is system
-// support 1, the second system support n), then one force per support in system order.
-// A support added since the last run is not in the system and gets no text.
-std::string reaction_text(const BeamModel& model, int feature) {
-    const int n = std::min<int>(model.reaction_count, kMaxSupports);
-    const auto* first = &model.reaction_feature[1];
-    const auto place = std::find(first, first + n, feature);
-    if (feature == 0 || place == first + n) return {};
-    const int j = static_cast<int>(place - first) + 1;
-    const int m = model.cantilever_count;
+// The reactions of the last run, by support feature; a support added since has none.
+std::string reaction_text(const std::vector<SupportReaction>& reactions, int feature,
+                          const BeamModel& model) {
+    const auto found = std::find_if(reactions.begin(), reactions.end(), [&](const auto& reaction) {
+        return reaction.feature_number == feature;
+    });
+    if (feature == 0 || found == reactions.end()) return {};
     const std::string_view force_unit = model.metric_units ? " N" : " lb.";
     const std::string_view moment_unit = model.metric_units ? " N-m" : " lb.-in.";
-    std::string text =
-        ", Reaction=" + value_text({model.reaction[j + m], force_unit}, model.sig_figs);
-    if (m >= 1 && j == 1) {
-        text += ", " + value_text({model.reaction[1], moment_unit}, model.sig_figs);
-    } else if (m == 2 && j == n) {
-        text += ", " + value_text({model.reaction[2], moment_unit}, model.sig_figs);
-    }
+    std::string text = ", Reaction=" + value_text({found->force, force_unit}, model.sig_figs);
+    if (found->moment) text += ", " + value_text({*found->moment, moment_unit}, model.sig_figs);
     return text;
 }
 
 void append_supports(std::vector<std::string>& lines, const BeamModel& model, bool with_reactions) {
     append_heading(lines, "Supports", 16);
+    const std::vector<SupportReaction> reactions =
+        with_reactions ? support_reactions(model) : std::vector<SupportReaction>{};
     for (int k = 1; k <= std::min<int>(model.su_count, kMaxSupports); ++k) {
         const FeatureRef entry{FeatureKind::support, k};
         if (is_removed(model, entry)) continue;
@@ -146,7 +141,7 @@ void append_supports(std::vector<std::string>& lines, const BeamModel& model, bo
         std::string line = kItemIndent;
         line += model.su_type[k] == "simp" ? "Simple support; " : "Cantilever support; ";
         line += position_text(model, model.su_loc[k], units);
-        if (with_reactions) line += reaction_text(model, feature);
+        line += reaction_text(reactions, feature, model);
         lines.push_back(std::move(line));
     }
 }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "model/beam_model.h"
+#include "model/status.h"
 
 namespace flexley {
 
@@ -20,7 +21,12 @@ struct MaximumValueTexts {
     std::string slope_at;
 };
 
+struct MaximumValuesResult {
+    Status status;  // kResultsOutOfDate when the beam has changed since its run; texts then empty
+    MaximumValueTexts texts;
+};
+
 // Formats the maxima of the last analysis run; E and I must be non-zero.
-MaximumValueTexts maximum_value_texts(const BeamModel& model);
+MaximumValuesResult maximum_value_texts(const BeamModel& model);
 
 }  // namespace flexley

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "analysis/results_state.h"
 #include "model/grid.h"
 #include "model/typed_number.h"
 #include "model/units.h"
@@ -52,6 +53,7 @@ PointValueTexts point_value_texts(const BeamModel& model, double position) {
 PointValuesResult find_point_values(const BeamModel& model, std::string_view text, bool in_feet) {
     const auto position = position_on_beam(model, text, in_feet);
     if (!position) return {Status::failure(kInvalidLocation), {}};
+    if (!results_available(model)) return {Status::failure(kResultsOutOfDate), {}};
     return {Status::success(), point_value_texts(model, *position)};
 }
 

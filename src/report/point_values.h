@@ -36,11 +36,13 @@ struct PointValueTexts {
 PointValueTexts point_value_texts(const BeamModel& model, double position);
 
 struct PointValuesResult {
-    Status status;  // kInvalidLocation when the text is refused; the texts are then empty
+    // kInvalidLocation when the text is refused, kResultsOutOfDate when the beam has changed
+    // since its run; the texts are then empty.
+    Status status;
     PointValueTexts texts;
 };
 
-// "Find Values": validates the typed position, then gives the four texts.
+// "Find Values": validates the typed position and the results, then gives the four texts.
 PointValuesResult find_point_values(const BeamModel& model, std::string_view text, bool in_feet);
 
 }  // namespace flexley

@@ -1,6 +1,7 @@
 // Assembles the text report in its fixed order: header, chosen sections, closing date line.
 #include "report/report.h"
 
+#include "analysis/results_state.h"
 #include "model/display.h"
 #include "model/units.h"
 #include "report/layout.h"
@@ -59,7 +60,7 @@ void append_beam_properties(Lines& lines, const BeamModel& model) {
 void append_maximum_values(Lines& lines, const BeamModel& model) {
     open_section(lines, "MAXIMUM VALUES", 29);
     lines.emplace_back();
-    const auto texts = maximum_value_texts(model);
+    const auto texts = maximum_value_texts(model).texts;
     lines.push_back(item("Maximum Bending Moment = ") + texts.moment + " at x=" + texts.moment_at);
     lines.push_back(item("Maximum Bending Stress = ") + texts.stress + " at x=" + texts.stress_at);
     lines.push_back(item("Maximum Deflection = ") + texts.deflection +
@@ -90,14 +91,21 @@ void append_point_values(Lines& lines, const BeamModel& model, const ReportOptio
 std::vector<std::string> report_lines(const BeamModel& model, const ReportOptions& options,
                                       std::string_view date_text) {
     Lines lines;
-    const bool any_section = options.beam_properties || options.load_text ||
-                             options.maximum_values || options.point_values;
+    // Results of an earlier beam are never printed: without a run since the last change the
+    // report leaves out the reactions and the result sections.
+    const bool results = results_available(model);
+    const bool maximum_values = options.maximum_values && results;
+    const bool point_values = options.point_values && results;
+    const bool any_section =
+        options.beam_properties || options.load_text || maximum_values || point_values;
     if (!any_section && options.title.empty()) return lines;
     append_header(lines, options.title);
     if (options.beam_properties) append_beam_properties(lines, model);
-    if (options.load_text) append_load_configuration(lines, model, options.support_reactions);
-    if (options.maximum_values) append_maximum_values(lines, model);
-    if (options.point_values) append_point_values(lines, model, options);
+    if (options.load_text) {
+        append_load_configuration(lines, model, options.support_reactions && results);
+    }
+    if (maximum_values) append_maximum_values(lines, model);
+    if (point_values) append_point_values(lines, model, options);
     lines.emplace_back();
     lines.emplace_back();
     lines.emplace_back(date_text);

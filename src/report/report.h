@@ -26,6 +26,7 @@ struct ReportOptions {
 
 // The report's lines without line breaks. The header and the closing date line come only when
 // a section is chosen or the title is not empty; otherwise the report has no lines at all.
+// Reactions, maximum values and values at a point come only from results of the beam as it is.
 std::vector<std::string> report_lines(const BeamModel& model, const ReportOptions& options,
                                       std::string_view date_text);
 
