@@ -2,6 +2,7 @@
 #include "cli/cli_options.h"
 
 #include <charconv>
+#include <cmath>
 #include <map>
 
 #include "model/limits.h"
@@ -20,11 +21,12 @@ std::optional<int> parse_integer(const std::string& text) {
 // Which options each command takes, so that a misplaced one is reported rather than ignored.
 const std::map<std::string, std::vector<std::string>>& allowed_options() {
     static const std::map<std::string, std::vector<std::string>> allowed = {
-        {"analyze", {"--v1", "--resolution", "--json", "--at"}},
-        {"table", {"--v1", "--resolution"}},
+        {"analyze", {"--v1", "--resolution", "--integration", "--json", "--at"}},
+        {"table", {"--v1", "--resolution", "--integration"}},
         {"convert", {"--v1", "--metric", "--english"}},
         {"report",
-         {"--v1", "--resolution", "--title", "--point", "--unit", "--sig-figs", "--no-reactions"}},
+         {"--v1", "--resolution", "--integration", "--title", "--point", "--unit", "--sig-figs",
+          "--no-reactions"}},
     };
     return allowed;
 }
@@ -87,6 +89,7 @@ class Parser {
         const auto value = next_value();
         if (!value) return UsageError{option + " needs a value"};
         if (option == "--resolution") return resolution(*value);
+        if (option == "--integration") return integration(*value);
         if (option == "--at") return position(*value);
         if (option == "--title") {
             options_.title = *value;
@@ -115,10 +118,19 @@ class Parser {
 
     std::optional<UsageError> resolution(const std::string& text) {
         const auto value = typed_number(text);
-        if (!value || !resolution_in_range(*value)) {
-            return UsageError{"--resolution must be a number from 10 to 200000"};
+        if (!value || !resolution_in_range(*value) || std::floor(*value) != *value) {
+            return UsageError{"--resolution must be a whole number from 10 to 200000, not " + text};
         }
         options_.resolution = static_cast<float>(*value);
+        return std::nullopt;
+    }
+
+    std::optional<UsageError> integration(const std::string& text) {
+        if (text != "exact" && text != "trapezoid") {
+            return UsageError{"--integration must be exact or trapezoid"};
+        }
+        options_.integration =
+            text == "exact" ? IntegrationMethod::exact : IntegrationMethod::trapezoid;
         return std::nullopt;
     }
 

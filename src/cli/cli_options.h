@@ -6,6 +6,8 @@
 #include <variant>
 #include <vector>
 
+#include "model/beam_model.h"
+
 namespace flexley::cli {
 
 enum class Command { analyze, table, convert, report };
@@ -17,6 +19,7 @@ struct CliOptions {
     std::string output_file;  // convert only
     bool version1 = false;
     std::optional<float> resolution;
+    IntegrationMethod integration = IntegrationMethod::exact;
     bool json = false;
     std::vector<double> at;  // analyze: positions in base length units
     TargetUnits target_units = TargetUnits::unchanged;
@@ -34,14 +37,17 @@ struct UsageError {
 
 inline constexpr const char* kUsage =
     "usage:\n"
-    "  flexley-cli analyze FILE [--v1] [--resolution N] [--json] [--at X ...]\n"
-    "  flexley-cli table FILE [--v1] [--resolution N]\n"
+    "  flexley-cli analyze FILE [--v1] [--resolution N] [--integration M] [--json] [--at X ...]\n"
+    "  flexley-cli table FILE [--v1] [--resolution N] [--integration M]\n"
     "  flexley-cli convert FILE OUT [--v1] [--metric|--english]\n"
-    "  flexley-cli report FILE [--v1] [--resolution N] [--title T] [--point X] [--unit in|ft]\n"
-    "                          [--sig-figs N] [--no-reactions]\n"
+    "  flexley-cli report FILE [--v1] [--resolution N] [--integration M] [--title T]\n"
+    "                          [--point X] [--unit in|ft] [--sig-figs N] [--no-reactions]\n"
     "FILE is a load configuration file (.lod); --v1 reads the version 1 layout.\n"
-    "N is the number of calculation intervals, 10 to 200000. X is a position along the beam:\n"
-    "inches or metres for --at, as typed for --point (feet on an English beam unless --unit in).\n";
+    "N is the number of calculation intervals, a whole number from 10 to 200000.\n"
+    "M is exact (closed-form slope and deflection, the default) or trapezoid (the moment\n"
+    "integrated twice by the trapezoidal rule). X is a position along the beam: inches or\n"
+    "metres for --at, as typed for --point (feet on an English beam unless --unit in).\n"
+    "Exit codes: 0 done, 1 usage, 2 file error, 3 refused, 4 deflection did not converge.\n";
 
 std::variant<CliOptions, UsageError> parse_arguments(const std::vector<std::string>& arguments);
 

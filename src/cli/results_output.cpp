@@ -3,13 +3,13 @@
 
 #include <charconv>
 #include <nlohmann/json.hpp>
-#include <optional>
 #include <string>
 
-#include "model/grid.h"
 #include "analysis/reaction_text.h"
+#include "analysis/support_reactions.h"
 #include "model/display.h"
 #include "model/features.h"
+#include "model/grid.h"
 #include "report/maximum_values.h"
 #include "report/point_values.h"
 #include "report/unit_choice.h"
@@ -24,19 +24,6 @@ std::string position_text(const BeamModel& model, double position) {
                       model.sig_figs);
 }
 
-std::string support_kind(const BeamModel& model, int feature_number) {
-    const auto feature = lookup_feature(model, feature_number);
-    return feature ? model.su_type[feature->index] : "";
-}
-
-// The moment reaction of system support j: the first cantilever is support 1, the second the
-// last one; the moment unknowns come first in the solution.
-std::optional<double> moment_reaction(const BeamModel& model, int j) {
-    if (model.cantilever_count >= 1 && j == 1) return model.reaction[1];
-    if (model.cantilever_count == 2 && j == model.reaction_count) return model.reaction[2];
-    return std::nullopt;
-}
-
 struct PointValues {
     double moment, stress, slope, deflection;
 };
@@ -48,13 +35,12 @@ PointValues physical_values(const BeamModel& model, int k) {
 
 Json reactions_json(const BeamModel& model) {
     Json reactions = Json::array();
-    for (int j = 1; j <= model.reaction_count; ++j) {
-        const auto moment = moment_reaction(model, j);
-        reactions.push_back({{"feature", model.reaction_feature[j]},
-                             {"position", model.reaction_pos[j]},
-                             {"kind", support_kind(model, model.reaction_feature[j])},
-                             {"force", model.reaction[model.cantilever_count + j]},
-                             {"moment", moment ? Json(*moment) : Json(nullptr)}});
+    for (const SupportReaction& reaction : support_reactions(model)) {
+        reactions.push_back({{"feature", reaction.feature_number},
+                             {"position", reaction.position},
+                             {"kind", reaction.fixed ? "cant" : "simp"},
+                             {"force", reaction.force},
+                             {"moment", reaction.moment ? Json(*reaction.moment) : Json(nullptr)}});
     }
     return reactions;
 }
@@ -88,7 +74,7 @@ void print_summary(const BeamModel& model, std::ostream& out) {
             << " support at x=" << position_text(model, model.su_loc[index]) << ": "
             << reaction.text << "\n";
     }
-    const auto maxima = maximum_value_texts(model);
+    const auto maxima = maximum_value_texts(model).texts;
     out << "\nMaximum values\n"
         << "  Bending moment  " << maxima.moment << " at x=" << maxima.moment_at << "\n"
         << "  Bending stress  " << maxima.stress << " at x=" << maxima.stress_at << "\n"
@@ -96,7 +82,8 @@ void print_summary(const BeamModel& model, std::ostream& out) {
         << "  Slope           " << maxima.slope << " at x=" << maxima.slope_at << "\n";
 }
 
-void print_json(const BeamModel& model, const std::vector<double>& at, std::ostream& out) {
+void print_json(const BeamModel& model, const std::vector<double>& at, const Status& status,
+                std::ostream& out) {
     Json points = Json::array();
     for (const double x : at) {
         const auto values = physical_values(model, nearest_point(model, x));
@@ -106,12 +93,17 @@ void print_json(const BeamModel& model, const std::vector<double>& at, std::ostr
                           {"slope", values.slope},
                           {"deflection", values.deflection}});
     }
-    const Json result = {{"units", model.metric_units ? "metric" : "english"},
-                         {"beam_length", model.beam_length},
-                         {"resolution", model.resolution},
-                         {"reactions", reactions_json(model)},
-                         {"max", maxima_json(model)},
-                         {"at", points}};
+    const Json result = {
+        {"units", model.metric_units ? "metric" : "english"},
+        {"beam_length", model.beam_length},
+        {"resolution", model.resolution},
+        {"integration",
+         model.integration_method == IntegrationMethod::exact ? "exact" : "trapezoid"},
+        {"converged", !status.is_warning()},
+        {"warning", status.is_warning() ? Json(status.message()) : Json(nullptr)},
+        {"reactions", reactions_json(model)},
+        {"max", maxima_json(model)},
+        {"at", points}};
     out << result.dump(2) << "\n";
 }
 

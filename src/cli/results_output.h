@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/beam_model.h"
+#include "model/status.h"
 
 namespace flexley::cli {
 
@@ -14,8 +15,10 @@ void print_summary(const BeamModel& model, std::ostream& out);
 
 // One JSON object with full-precision values in base units; slope and deflection physical
 // (divided by E x I), the deflection negative downward, the slope in radians. `at` holds
-// positions on the beam, each reported at its nearest grid point.
-void print_json(const BeamModel& model, const std::vector<double>& at, std::ostream& out);
+// positions on the beam, each reported at its nearest grid point. `status` is the run's: the
+// object names the integration method and says whether the deflection converged.
+void print_json(const BeamModel& model, const std::vector<double>& at, const Status& status,
+                std::ostream& out);
 
 // x,moment,stress,slope,deflection for every grid point, in the same units and signs as the JSON.
 void print_table(const BeamModel& model, std::ostream& out);

@@ -1,6 +1,7 @@
 // flexley-cli's commands: read a load file, run the engine, print or write what was asked.
 #include "cli/run_cli.h"
 
+#include <optional>
 #include <variant>
 
 #include "analysis/run.h"
@@ -8,6 +9,7 @@
 #include "cli/results_output.h"
 #include "files/file_names.h"
 #include "files/load_file.h"
+#include "model/beam_settings.h"
 #include "model/units.h"
 #include "report/point_values.h"
 #include "report/report.h"
@@ -20,32 +22,47 @@ namespace {
 ContinueQuestion scripted_continue(std::ostream& err) {
     return [&err, asked = 0]() mutable {
         ++asked;
+        const int passes = asked * 100;
         if (asked <= kContinueAnswers) {
-            err << "warning: the deflection iteration has not converged after " << asked * 100
+            err << "warning: the deflection iteration has not converged after " << passes
                 << " passes; continuing\n";
             return true;
         }
-        err << "warning: stopped the deflection iteration after " << (asked - 1) * 100
+        err << "warning: stopped the deflection iteration after " << passes
             << " passes; slope and deflection are those of the last pass\n";
         return false;
     };
 }
 
+void print_status(const Status& status, std::ostream& err) {
+    const char* prefix = status.is_warning() ? "warning: " : "";
+    err << prefix << status.message() << "\n";
+    if (!status.detail().empty()) err << status.detail() << "\n";
+}
+
 bool load_beam(const CliOptions& options, BeamModel& model, std::ostream& err) {
     const auto format = options.version1 ? LoadFormat::version1 : LoadFormat::current;
     const auto result = read_load_configuration(options.file, model, format);
-    if (!result.status.ok()) {
-        err << result.status.message() << "\n";
-        return false;
+    if (!result.status.message().empty()) print_status(result.status, err);
+    if (!result.status.ok()) return false;
+    if (options.resolution) {
+        const Status set = set_resolution(model, *options.resolution);
+        if (!set.ok()) print_status(set, err);
     }
-    if (options.resolution) model.resolution = *options.resolution;
+    model.integration_method = options.integration;
     return true;
 }
 
-bool analyse(BeamModel& model, std::ostream& err) {
+// The exit code of a run that produced output: a stopped iteration is reported as such.
+int analysed(const Status& status) {
+    return status.is_warning() ? kExitNotConverged : kExitSuccess;
+}
+
+std::optional<Status> analyse(BeamModel& model, std::ostream& err) {
     const Status status = run_calculation(model, scripted_continue(err));
-    if (!status.ok()) err << status.message() << "\n";
-    return status.ok();
+    if (!status.message().empty()) print_status(status, err);
+    if (!status.ok()) return std::nullopt;
+    return status;
 }
 
 int analyze(const CliOptions& options, BeamModel& model, std::ostream& out, std::ostream& err) {
@@ -55,19 +72,21 @@ int analyze(const CliOptions& options, BeamModel& model, std::ostream& out, std:
             return kExitUsage;
         }
     }
-    if (!analyse(model, err)) return kExitRefused;
+    const auto status = analyse(model, err);
+    if (!status) return kExitRefused;
     if (options.json) {
-        print_json(model, options.at, out);
+        print_json(model, options.at, *status, out);
     } else {
         print_summary(model, out);
     }
-    return kExitSuccess;
+    return analysed(*status);
 }
 
 int table(BeamModel& model, std::ostream& out, std::ostream& err) {
-    if (!analyse(model, err)) return kExitRefused;
+    const auto status = analyse(model, err);
+    if (!status) return kExitRefused;
     print_table(model, out);
-    return kExitSuccess;
+    return analysed(*status);
 }
 
 // The output name is completed as the program's own save completes it.
@@ -112,10 +131,11 @@ int report(const CliOptions& options, BeamModel& model, std::ostream& out, std::
         report.point_position = *position;
     }
     model.sig_figs = static_cast<int16_t>(options.sig_figs);
-    if (!analyse(model, err)) return kExitRefused;
+    const auto status = analyse(model, err);
+    if (!status) return kExitRefused;
     for (const auto& line : report_lines(model, report, today_short_date()))
         out << line << "\n";
-    return kExitSuccess;
+    return analysed(*status);
 }
 
 int run_command(const CliOptions& options, std::ostream& out, std::ostream& err) {

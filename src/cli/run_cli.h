@@ -11,6 +11,9 @@ inline constexpr int kExitSuccess = 0;
 inline constexpr int kExitUsage = 1;
 inline constexpr int kExitFileError = 2;
 inline constexpr int kExitRefused = 3;
+// The deflection iteration was stopped unconverged: the output stands, slope and deflection may
+// be wrong.
+inline constexpr int kExitNotConverged = 4;
 
 // How often the non-converging iteration is allowed another 100 passes before it is stopped.
 inline constexpr int kContinueAnswers = 10;

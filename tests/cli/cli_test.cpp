@@ -77,6 +77,8 @@ TEST_F(CliTest, UsageErrorsPrintUsageAndExitOne) {
         {"analyze", file, file},
         {"analyze", file, "--resolution", "9"},
         {"analyze", file, "--resolution", "200001"},
+        {"analyze", file, "--resolution", "100.5"},
+        {"report", file, "--integration", "simpson"},
         {"analyze", file, "--at"},
         {"analyze", file, "--at", "middle"},
         {"table", file, "--json"},
@@ -104,9 +106,11 @@ TEST_F(CliTest, FileAndPreconditionFailuresHaveTheirOwnExitCodes) {
     const std::string missing = (dir_ / "missing.lod").string();
     const std::string no_properties = simple_beam(false);
     const std::vector<Case> cases = {
-        {{"analyze", missing}, kExitFileError, "File access error\n"},
-        {{"table", dir_.string()}, kExitFileError, "File access error\n"},
-        {{"report", missing}, kExitFileError, "File access error\n"},
+        // The message the program shows, then where and why.
+        {{"analyze", missing}, kExitFileError, "File access error\nThe file does not exist.\n"},
+        {{"table", dir_.string()},
+         kExitFileError,
+         "File access error\nIt is a folder, not a file.\n"},
         {{"analyze", no_properties},
          kExitRefused,
          "Enter beam properties before calculating deflection.\n"},
@@ -150,7 +154,11 @@ TEST_F(CliTest, JsonGivesReactionsMaximaAndPointsInBaseUnits) {
     EXPECT_NEAR(json["max"]["moment"]["at"].get<double>(), 60.0, 0.12);
     EXPECT_NEAR(json["max"]["deflection"]["value"].get<double>(), centre_deflection,
                 1e-4 * std::fabs(centre_deflection));
-    EXPECT_GT(json["max"]["slope"]["value"].get<double>(), 0.0);  // radians, rising at x = L
+    // Radians; the slopes at both ends are equally large, and the one at x = 0 comes first.
+    EXPECT_LT(json["max"]["slope"]["value"].get<double>(), 0.0);
+    EXPECT_EQ(json["max"]["slope"]["at"].get<double>(), 0.0);
+    EXPECT_EQ(json["integration"], "exact");
+    EXPECT_EQ(json["converged"], true);
 
     ASSERT_EQ(json["at"].size(), 2u);
     EXPECT_EQ(json["at"][0]["x"], 60.0);
@@ -251,22 +259,83 @@ TEST_F(CliTest, ProgramReportsThroughExitCodeAndStandardError) {
         return WEXITSTATUS(status);
     };
     EXPECT_EQ(exit_code("analyze " + (dir_ / "missing.lod").string()), kExitFileError);
-    EXPECT_EQ(read_file(err_file), "File access error\n");
+    EXPECT_EQ(read_file(err_file), "File access error\nThe file does not exist.\n");
     EXPECT_EQ(exit_code("frobnicate"), kExitUsage);
     EXPECT_EQ(exit_code("analyze " + simple_beam()), kExitSuccess);
 }
 
-// The sample beams give the reactions their README works out by hand: {force, moment} per support.
-TEST(CliExamples, GiveTheHandCalculatedReactions) {
+// A beam so heavy that rounding alone keeps the shooting from converging: without anyone to ask,
+// the command goes on for 1000 passes, stops after 1100 and says so in its exit code.
+TEST_F(CliTest, AnUnconvergedDeflectionIsReportedAsSuch) {
+    BeamModel model;
+    model.beam_length = 12000;
+    model.moment_of_inertia = 100.0f;
+    model.elastic_modulus = 30e6f;
+    model.fibre_distance = 4.0f;
+    EXPECT_TRUE(add_point_load(model, 1e7, 4000, "ft", "lb").ok());
+    EXPECT_TRUE(add_point_load(model, 1e7, 9000, "ft", "lb").ok());
+    EXPECT_TRUE(add_support(model, 0, "simp", "ft", "lb").ok());
+    EXPECT_TRUE(add_support(model, 12000, "simp", "ft", "lb").ok());
+    const std::string file = save(model, "heavy.lod");
+    EXPECT_EQ(run({"analyze", file}).code, kExitSuccess);
+    const auto outcome = run({"analyze", file, "--integration", "trapezoid", "--json"});
+    EXPECT_EQ(outcome.code, kExitNotConverged);
+    EXPECT_NE(outcome.err.find("not converged after 1000 passes; continuing\n"
+                               "warning: stopped the deflection iteration after 1100 passes"),
+              std::string::npos)
+        << outcome.err;
+    EXPECT_NE(outcome.err.find("warning: The deflection calculation was stopped"),
+              std::string::npos);
+    const auto json = nlohmann::json::parse(outcome.out);
+    EXPECT_EQ(json["integration"], "trapezoid");
+    EXPECT_EQ(json["converged"], false);
+    EXPECT_EQ(json["reactions"].size(), 2u);
+}
+
+// An older file's fractional resolution is brought to a whole number, with a note, not refused.
+TEST_F(CliTest, AFractionalResolutionFromAFileIsRoundedWithANote) {
+    std::string text = read_file(simple_beam());
+    const auto at = text.find(",1000,#");  // the resolution, before the inch flag
+    ASSERT_NE(at, std::string::npos);
+    text.replace(at, 6, ",1000.4,");
+    const std::string file = (dir_ / "fraction.lod").string();
+    std::ofstream(file, std::ios::binary) << text;
+    const auto outcome = run({"analyze", file, "--json"});
+    EXPECT_EQ(outcome.code, kExitSuccess) << outcome.err;
+    EXPECT_NE(outcome.err.find("warning: The file's resolution of 1000.4 was changed to 1000"),
+              std::string::npos)
+        << outcome.err;
+    EXPECT_EQ(nlohmann::json::parse(outcome.out)["resolution"], 1000.0);
+}
+
+// The sample beams give the reactions and maxima their README works out by hand: {force, moment}
+// per support, then {value, position} of the largest moment and deflection (downward negative),
+// to the README's three figures.
+TEST(CliExamples, GiveTheHandCalculatedResults) {
     using Reactions = std::vector<std::pair<double, double>>;
-    const std::pair<const char*, Reactions> cases[] = {
-        {"simply-supported-point-load.lod", {{2500, 0}, {2500, 0}}},
-        {"cantilever-distributed-load.lod", {{5000, 300000}}},
-        {"propped-cantilever-point-load.lod", {{5500, 432000}, {2500, 0}}},
-        {"continuous-beam-three-spans.lod", {{4800, 0}, {13200, 0}, {13200, 0}, {4800, 0}}},
-        {"metric-ipe300-combined-loads.lod", {{130000.0 / 3, 0}, {110000.0 / 3, 0}}},
+    using Maximum = std::pair<double, double>;
+    struct Case {
+        const char* file;
+        Reactions reactions;
+        Maximum moment, deflection;
     };
-    for (const auto& [file, reactions] : cases) {
+    const Case cases[] = {
+        {"simply-supported-point-load.lod", {{2500, 0}, {2500, 0}}, {300000, 120}, {-0.243, 120}},
+        {"cantilever-distributed-load.lod", {{5000, 300000}}, {-300000, 0}, {-0.339, 120}},
+        {"propped-cantilever-point-load.lod",
+         {{5500, 432000}, {2500, 0}},
+         {-432000, 0},
+         {-0.204, 159.2}},
+        {"continuous-beam-three-spans.lod",
+         {{4800, 0}, {13200, 0}, {13200, 0}, {4800, 0}},
+         {-172800, 144},
+         {-0.0418, 63.6}},
+        {"metric-ipe300-combined-loads.lod",
+         {{130000.0 / 3, 0}, {110000.0 / 3, 0}},
+         {67222, 2.333},
+         {-0.0140, 2.91}},
+    };
+    for (const auto& [file, reactions, moment, deflection] : cases) {
         const auto outcome =
             run({"analyze", std::string(FLEXLEY_EXAMPLES_DIR) + "/" + file, "--json"});
         ASSERT_EQ(outcome.code, kExitSuccess) << file << outcome.err;
@@ -278,6 +347,16 @@ TEST(CliExamples, GiveTheHandCalculatedReactions) {
             EXPECT_NEAR(json[j]["moment"].is_null() ? 0.0 : json[j]["moment"].get<double>(), moment,
                         1e-9 * moment)
                 << file;
+        }
+        const auto maxima = nlohmann::json::parse(outcome.out)["max"];
+        const double length = nlohmann::json::parse(outcome.out)["beam_length"].get<double>();
+        for (const auto& [name, expected] :
+             {std::pair{"moment", moment}, {"deflection", deflection}}) {
+            EXPECT_NEAR(maxima[name]["value"].get<double>(), expected.first,
+                        5e-3 * std::abs(expected.first))
+                << file << " " << name;
+            EXPECT_NEAR(maxima[name]["at"].get<double>(), expected.second, 5e-3 * length)
+                << file << " " << name;
         }
     }
 }
