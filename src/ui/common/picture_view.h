@@ -41,6 +41,9 @@ class PictureView : public QWidget {
 
     std::vector<drawing::Picture> pictures_;
     QImage backing_;
+    // The widget size the image was made for; a fractional pixel ratio makes it unrecoverable
+    // from the image's own size.
+    QSize backing_widget_size_;
 };
 
 }  // namespace flexley

@@ -16,8 +16,7 @@ std::string beam_length_caption(const BeamModel& model);
 // The picture for pen mode kPenDraw or kPenErase. The beam bar is always drawn; with kPenErase
 // every other shape erases what the same shape drew before. Loads are scaled so that each kind's
 // largest magnitude has the full size; removed features draw nothing.
-drawing::Picture beam_picture(const BeamModel& model, const ScreenGeometry& geometry,
-                              int pen_mode);
+drawing::Picture beam_picture(const BeamModel& model, const ScreenGeometry& geometry, int pen_mode);
 
 // A whole redraw: the labels of features added since the last one are created (which may
 // restack older ones), and the picture to show is returned.

@@ -111,7 +111,12 @@ class FeatureLabels {
     void clear() { groups_.clear(); }
 
   private:
-    FeatureLabelGroup& place_group(int feature_number, FeatureLabelGroup group);
+    FeatureLabelGroup build_group(const BeamModel& model, const ScreenGeometry& geometry,
+                                  FeatureRef entry, int feature_number) const;
+    // The creation shared by every kind.
+    void label_entry(const BeamModel& model, const ScreenGeometry& geometry, FeatureRef entry,
+                     int16_t& drawn, int feature_number);
+    void place_group(int feature_number, FeatureLabelGroup group);
     void set_caption(Label& label, std::string caption);
     void fit(Label& label) const;
 

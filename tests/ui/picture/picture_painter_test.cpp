@@ -1,0 +1,93 @@
+// Painting pictures: a few tolerant pixels at device pixel ratios 1 and 2, and the view's image.
+#include <gtest/gtest.h>
+
+#include <QColor>
+#include <QImage>
+#include <QPainter>
+
+#include "ui/common/picture_painter.h"
+#include "ui/common/picture_view.h"
+
+namespace flexley {
+namespace {
+
+using drawing::Ink;
+
+// At 96 dots per inch 15 drawing units make one pixel: this picture spans 100 x 100 pixels.
+drawing::Picture sample_picture() {
+    drawing::Picture picture;
+    picture.add(drawing::Line{{150, 150}, {1350, 150}, Ink{drawing::kRed}});
+    picture.add(drawing::Circle{{750, 750}, 150, Ink{drawing::kRed}, drawing::Fill::solid});
+    picture.add(drawing::Rectangle{{150, 900}, {1350, 1350}, Ink{}, drawing::Fill::diagonal_cross});
+    // Drawn, then erased: nothing of it may remain.
+    picture.add(drawing::Line{{150, 450}, {1350, 450}, Ink{drawing::kBlack}});
+    picture.add(drawing::Line{{150, 450}, {1350, 450}, Ink{drawing::kBlack, kPenErase}});
+    return picture;
+}
+
+bool near(QColor actual, QColor expected) {
+    const int tolerance = 60;
+    return std::abs(actual.red() - expected.red()) <= tolerance &&
+           std::abs(actual.green() - expected.green()) <= tolerance &&
+           std::abs(actual.blue() - expected.blue()) <= tolerance;
+}
+
+// The colour at a point given in logical pixels, whatever the image's pixel ratio.
+QColor at(const QImage& image, double x, double y) {
+    const double ratio = image.devicePixelRatio();
+    return image.pixelColor(static_cast<int>(x * ratio), static_cast<int>(y * ratio));
+}
+
+void expect_sample(const QImage& image, double scale = 1) {
+    EXPECT_TRUE(near(at(image, 50 * scale, 10 * scale), Qt::red));
+    EXPECT_TRUE(near(at(image, 50 * scale, 50 * scale), Qt::red));
+    // The erased line.
+    for (int x = 20; x <= 80; x += 10)
+        EXPECT_TRUE(near(at(image, x * scale, 30 * scale), Qt::white)) << x;
+    // The hatch leaves both ink and paper inside the bar.
+    int dark = 0;
+    int light = 0;
+    for (int x = 20; x < 80; ++x) {
+        const QColor colour = at(image, x * scale, 75 * scale);
+        (colour.lightness() < 128 ? dark : light) += 1;
+    }
+    EXPECT_GT(dark, 5);
+    EXPECT_GT(light, 5);
+}
+
+TEST(PicturePainter, PaintsTheSamePictureAtPixelRatiosOneAndTwo) {
+    for (const double ratio : {1.0, 2.0}) {
+        QImage image(QSize(100, 100) * ratio, QImage::Format_ARGB32);
+        image.setDevicePixelRatio(ratio);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        paint_picture(painter, sample_picture(), DrawingUnitMapping(96), Qt::white);
+        painter.end();
+        SCOPED_TRACE(ratio);
+        expect_sample(image);
+    }
+}
+
+TEST(PictureView, BackingImageFollowsSizeAndShowsTheSamePictureAfterAResize) {
+    PictureView view;
+    QPalette palette = view.palette();
+    palette.setColor(view.backgroundRole(), Qt::white);
+    view.setPalette(palette);
+    view.resize(100, 100);
+    // The same picture at the widget's own resolution, whatever the offscreen screen reports.
+    const double scale = view.mapping().dots_per_inch() / 96;
+    view.show_picture(sample_picture());
+    const QImage& image = view.backing_image();
+    EXPECT_EQ(image.size(), QSize(100, 100) * view.devicePixelRatioF());
+    expect_sample(image, scale);
+
+    view.resize(300, 200);
+    EXPECT_EQ(view.backing_image().size(), QSize(300, 200) * view.devicePixelRatioF());
+    expect_sample(view.backing_image(), scale);
+
+    view.clear();
+    EXPECT_TRUE(near(at(view.backing_image(), 50 * scale, 10 * scale), Qt::white));
+}
+
+}  // namespace
+}  // namespace flexley
