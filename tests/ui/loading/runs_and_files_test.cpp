@@ -1,0 +1,193 @@
+// Calculations and reaction texts, the file commands, closing, and the Overview's typical use.
+#include <QFileDialog>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <filesystem>
+
+#include "analysis/run.h"
+#include "files/load_file.h"
+#include "model/beam_settings.h"
+#include "model/features.h"
+#include "ui/loading/loading_fixture.h"
+
+namespace flexley::testing {
+namespace {
+
+std::string file_text(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+class RunsAndFilesTest : public LoadingFixture {
+  protected:
+    // Adds a feature through the core and redraws, as a feature dialog will.
+    template <typename Add>
+    void add(Add add_feature) {
+        ASSERT_TRUE(add_feature().ok());
+        trigger("redrawscreen");
+    }
+
+    // Chooses a file in the file dialog a command has just opened.
+    void choose_file(const char* dialog, const std::string& path) {
+        auto& chooser = child<QFileDialog>(window(), dialog);
+        chooser.selectFile(QString::fromStdString(path));
+        static_cast<QDialog&>(chooser).accept();  // QFileDialog hides accept, not the override
+        discard_closed_windows();
+    }
+};
+
+struct ReactionRow {
+    const char* name;
+    std::vector<std::pair<double, const char*>> supports;  // position, kind
+    double load_at;
+    std::vector<const char*> texts;  // reaction label of support 1, 2, ...
+};
+
+TEST_F(RunsAndFilesTest, ReactionTextsStandBesideTheSupportsUntilTheBeamChanges) {
+    // On the 100 ft (1200 in.) beam of the start dialog: PL/8 at each end of the fixed beam.
+    const ReactionRow rows[] = {
+        {"simple", {{0.0, "simp"}, {1200.0, "simp"}}, 600.0, {"500 lb.", "500 lb."}},
+        {"one_fixed", {{0.0, "cant"}}, 240.0, {"1000 lb., 240000 lb.-in."}},
+        {"two_fixed",
+         {{0.0, "cant"}, {1200.0, "cant"}},
+         600.0,
+         {"500 lb., 150000 lb.-in.", "500 lb., -150000 lb.-in."}},
+    };
+    started();
+    for (const ReactionRow& row : rows) {
+        SCOPED_TRACE(row.name);
+        prompts.answer_no();
+        trigger("reinitialize");
+        add([&] { return add_point_load(model, 1000.0, row.load_at, "in", "lb"); });
+        for (const auto& [at, kind] : row.supports) {
+            add([&] { return add_support(model, at, kind, "in", "lb"); });
+        }
+        set_section_properties(model, 100.0, 29e6, 5.0);
+        trigger("runcalc");
+        for (std::size_t i = 0; i < row.texts.size(); ++i) {
+            const std::string name = "sloadlab2" + std::to_string(i + 1);
+            EXPECT_EQ(caption(name.c_str()), row.texts[i]);
+        }
+
+        prompts.answer_text("1");
+        trigger("removefeature");
+        EXPECT_EQ(caption("sloadlab21"), "");
+    }
+    EXPECT_EQ(prompts.texts().filter("Do you wish").size(), 3);
+}
+
+TEST_F(RunsAndFilesTest, ARefusedRunIsShownAndLeavesNoReactions) {
+    started();
+    add([&] { return add_support(model, 0.0, "simp", "in", "lb"); });
+    add([&] { return add_support(model, 1200.0, "simp", "in", "lb"); });
+    prompts.forget_shown();
+    trigger("runcalc");
+    EXPECT_EQ(prompts.texts(), QStringList{kMissingProperties});
+    EXPECT_EQ(caption("sloadlab21"), "");
+    trigger("supreact");
+    EXPECT_EQ(caption("sloadlab21"), "0 lb.");
+}
+
+TEST_F(RunsAndFilesTest, AFileOnTheCommandLineOpensStraightOnTheLoadingScreen) {
+    window().start(FLEXLEY_EXAMPLES_DIR "/propped-cantilever-point-load.lod");
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_EQ(window().windowTitle(), "Flexley: Loading Screen: propped-cantilever-point-load.lod");
+    EXPECT_EQ(window().findChild<StartDialog*>(), nullptr);
+    EXPECT_EQ(caption("featlabel3"), "Feature 3");
+    EXPECT_EQ(caption("loadlab1"), "8000 lb.");
+    EXPECT_TRUE(prompts.shown().empty());
+}
+
+TEST_F(RunsAndFilesTest, AnUnreadableFileOnTheCommandLineFallsBackToTheStartDialog) {
+    std::ofstream(path("broken.lod")) << "1,0,0\r\nnot a beam\r\n";
+    window().start(path("broken.lod"));
+    ASSERT_EQ(prompts.texts(), QStringList{kFileAccessError});
+    EXPECT_FALSE(prompts.shown().front().details.isEmpty());
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_TRUE(child<StartDialog>(window(), "properties").isVisible());
+    EXPECT_EQ(model.feature_count, 0);
+    EXPECT_EQ(window().windowTitle(), "Flexley: Loading Screen");
+}
+
+TEST_F(RunsAndFilesTest, SaveAsAsksBeforeReplacingAndThenSavesSilently) {
+    started();
+    add([&] { return add_point_load(model, 500.0, 60.0, "ft", "lb"); });
+    std::ofstream(path("beam.lod")) << "old";
+
+    trigger("saveloadcfg");
+    prompts.answer_no();
+    choose_file("Saveload", path("beam"));
+    EXPECT_EQ(file_text(path("beam.lod")), "old");
+    EXPECT_EQ(window().windowTitle(), "Flexley: Loading Screen");
+
+    trigger("saveas");
+    prompts.answer_yes();
+    choose_file("Saveload", path("beam"));
+    EXPECT_EQ(file_text(path("beam.lod")), load_configuration_text(model));
+    EXPECT_EQ(window().windowTitle(), "Flexley: Loading Screen: beam.lod");
+
+    add([&] { return add_point_load(model, 700.0, 30.0, "ft", "lb"); });
+    prompts.forget_shown();
+    trigger("saveloadcfg");
+    EXPECT_TRUE(prompts.shown().empty());
+    EXPECT_EQ(window().findChild<QFileDialog*>(), nullptr);
+    EXPECT_EQ(file_text(path("beam.lod")), load_configuration_text(model));
+}
+
+TEST_F(RunsAndFilesTest, OpenReplacesTheBeamAndItsLabels) {
+    started();
+    add([&] { return add_moment(model, 100.0, 60.0, "in", "pi"); });
+    trigger("openloadcfg");
+    choose_file("getload", FLEXLEY_EXAMPLES_DIR "/simply-supported-point-load.lod");
+    EXPECT_EQ(window().windowTitle(), "Flexley: Loading Screen: simply-supported-point-load.lod");
+    EXPECT_EQ(window().findChild<QLabel*>("mloadtitle1"), nullptr);
+    EXPECT_EQ(caption("loadtitle1"), "Point Load");
+}
+
+TEST_F(RunsAndFilesTest, ClosingWritesThePreferencesEvenWhenThatFails) {
+    started();
+    settings.preferences.default_units = "metric";
+    QSignalSpy finished(&window(), &LoadingScreen::finished);
+    window().close();
+    EXPECT_EQ(file_text(path("beams.prf")), "\"\",\"\",\"metric\",#FALSE#\r\n");
+    EXPECT_EQ(finished.count(), 1);
+
+    settings.preferences_dir = path("missing/folder");
+    window().show();
+    window().close();
+    EXPECT_EQ(prompts.texts().last(), kUnableToSavePreferences);
+    EXPECT_EQ(finished.count(), 2);
+}
+
+// The Overview's typical use: a 5 m metric beam, a 2000 N load at midspan on two supports.
+TEST_F(RunsAndFilesTest, TypicalUseFromStartDialogToReactions) {
+    window().start();
+    auto& start = child<StartDialog>(window(), "properties");
+    child<QRadioButton>(start, "Met").click();
+    child<QLineEdit>(start, "Length").setText("5");
+    child<QPushButton>(start, "Command1").click();
+    discard_closed_windows();
+    ASSERT_TRUE(window().isVisible());
+    EXPECT_DOUBLE_EQ(model.beam_length, 5.0);
+
+    add([&] { return add_point_load(model, 2000.0, 2.5, "m", "N"); });
+    add([&] { return add_support(model, 0.0, "simp", "m", "N"); });
+    add([&] { return add_support(model, 5.0, "simp", "m", "N"); });
+    ASSERT_TRUE(set_section_properties(model, 8.36e-5, 2.1e11, 0.15).ok());
+    EXPECT_EQ(caption("loadlab1"), "2000 N");
+    EXPECT_EQ(caption("sloadlab2"), "x=5 m");
+
+    trigger("saveas");
+    choose_file("Saveload", path("typical"));
+    EXPECT_EQ(window().windowTitle(), "Flexley: Loading Screen: typical.lod");
+
+    trigger("runcalc");
+    EXPECT_EQ(caption("sloadlab21"), "1000 N");
+    EXPECT_EQ(caption("sloadlab22"), "1000 N");
+    EXPECT_NEAR(std::abs(model.max_moment), 2500.0, 1e-6);
+    EXPECT_NEAR(model.max_moment_at, 2.5, 1e-9);
+    EXPECT_TRUE(prompts.shown().empty());
+}
+
+}  // namespace
+}  // namespace flexley::testing
