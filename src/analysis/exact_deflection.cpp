@@ -26,8 +26,8 @@ StartingValues starting_values(const BeamModel& model) {
     if (model.cantilever_count > 0) return {};
     const double xa = model.reaction_pos[1];
     const double xb = model.reaction_pos[2];
-    const double fa = moment_integral(model, xa, 2);
-    const double fb = moment_integral(model, xb, 2);
+    const double fa = moment_integrals(model, xa).twice;
+    const double fb = moment_integrals(model, xb).twice;
     const double slope = (fa - fb) / (xb - xa);
     return {slope, fa + slope * xa};
 }
@@ -39,12 +39,13 @@ struct SegmentIntegrals {
 
     SegmentIntegrals(const BeamModel& model, const MomentSegment& segment) {
         const Cubic& m = segment.moment;
-        s0 = moment_integral(model, segment.x0, 1);
+        const MomentIntegrals at_start = moment_integrals(model, segment.x0);
+        s0 = at_start.once;
         s1 = m.c0;
         s2 = m.c1 / 2.0;
         s3 = m.c2 / 3.0;
         s4 = m.c3 / 4.0;
-        f0 = moment_integral(model, segment.x0, 2);
+        f0 = at_start.twice;
         f1 = s0;
         f2 = m.c0 / 2.0;
         f3 = m.c1 / 6.0;
@@ -58,10 +59,12 @@ struct SegmentIntegrals {
     }
 };
 
-void track(double& maximum, double& position, double value, double at) {
+// The position is worked out only when the maximum moves: a division per point would cost more
+// than the point's whole evaluation.
+void track(const BeamModel& model, double& maximum, double& position, double value, int index) {
     if (std::abs(value) > std::abs(maximum)) {
         maximum = value;
-        position = at;
+        position = index * model.beam_length / model.resolution;
     }
 }
 
@@ -82,9 +85,8 @@ void integrate_exactly(BeamModel& model) {
                 start.deflection - start.slope * x - integrals.deflection_integral(t);
             model.slope[i] = slope;
             model.deflection[i] = deflection;
-            const double at = i * model.beam_length / grid.intervals;
-            track(model.max_slope, model.max_slope_at, slope, at);
-            track(model.max_deflection, model.max_deflection_at, deflection, at);
+            track(model, model.max_slope, model.max_slope_at, slope, i);
+            track(model, model.max_deflection, model.max_deflection_at, deflection, i);
         }
     }
 }

@@ -7,35 +7,28 @@ namespace flexley {
 
 namespace {
 
-// <u>: the distance past a load's position, zero before it.
-double past(double u) {
-    return u > 0.0 ? u : 0.0;
+// 1 / n! for n = 0..5.
+constexpr double kInverseFactorial[] = {1.0, 1.0, 1.0 / 2.0, 1.0 / 6.0, 1.0 / 24.0, 1.0 / 120.0};
+
+// Adds coefficient x <u>^n / n! integrated once and twice, for n = 0..3. The exact method adds
+// every load this way at every segment start, so it multiplies by constants and never divides.
+void add_ramp(MomentIntegrals& sum, double coefficient, double u, int n) {
+    if (!(u > 0.0)) return;
+    double power = u;  // u^(n + 1)
+    for (int i = 0; i < n; ++i)
+        power *= u;
+    const double once = coefficient * power;
+    sum.once += once * kInverseFactorial[n + 1];
+    sum.twice += once * u * kInverseFactorial[n + 2];
 }
 
-double power(double u, int k) {
-    double result = 1.0;
-    for (int i = 0; i < k; ++i) {
-        result *= u;
-    }
-    return result;
-}
-
-// <u>^n / n!, the n-th integral from 0 of a unit step at u = 0.
-double ramp(double u, int n) {
-    double factorial = 1.0;
-    for (int i = 2; i <= n; ++i) {
-        factorial *= i;
-    }
-    return power(past(u), n) / factorial;
-}
-
-// The moment of the loads alone integrated `times` times from 0 to x. A point load's moment is a
+// The moment of the loads alone integrated once and twice from 0 to x. A point load's moment is a
 // ramp of order 1, a couple's a step; a linearly varying load is two ramps of orders 2 and 3 from
 // its start, cancelled from its end on.
-double repeated_load_integral(const BeamModel& model, double x, int times) {
-    double total = 0.0;
+MomentIntegrals integrals_of_loads(const BeamModel& model, double x) {
+    MomentIntegrals sum;
     for (int k = 1; k <= used_entries(model.pt_count, kMaxPointLoads); ++k) {
-        total -= model.pt_mag[k] * ramp(x - model.pt_loc[k], times + 1);
+        add_ramp(sum, -model.pt_mag[k], x - model.pt_loc[k], 1);
     }
     for (int k = 1; k <= used_entries(model.di_count, kMaxDistributedLoads); ++k) {
         const double a = model.di_start[k];
@@ -43,14 +36,15 @@ double repeated_load_integral(const BeamModel& model, double x, int times) {
         if (!has_extent(a, b)) continue;
         const double w1 = model.di_mag_start[k];
         const double s = (model.di_mag_end[k] - w1) / (b - a);
-        total += -w1 * ramp(x - a, times + 2) - s * ramp(x - a, times + 3) +
-                 w1 * ramp(x - b, times + 2) +
-                 s * (ramp(x - b, times + 3) + (b - a) * ramp(x - b, times + 2));
+        add_ramp(sum, -w1, x - a, 2);
+        add_ramp(sum, -s, x - a, 3);
+        add_ramp(sum, w1 + s * (b - a), x - b, 2);
+        add_ramp(sum, s, x - b, 3);
     }
     for (int k = 1; k <= used_entries(model.mo_count, kMaxMoments); ++k) {
-        total -= model.mo_mag[k] * ramp(x - model.mo_loc[k], times);
+        add_ramp(sum, -model.mo_mag[k], x - model.mo_loc[k], 0);
     }
-    return total;
+    return sum;
 }
 
 }  // namespace
@@ -87,21 +81,21 @@ double load_moment_about(const BeamModel& model, double x1) {
 }
 
 double load_slope_integral(const BeamModel& model, double x) {
-    return repeated_load_integral(model, x, 1);
+    return integrals_of_loads(model, x).once;
 }
 
 double load_deflection_integral(const BeamModel& model, double x) {
-    return repeated_load_integral(model, x, 2);
+    return integrals_of_loads(model, x).twice;
 }
 
-double moment_integral(const BeamModel& model, double x, int times) {
-    double total = repeated_load_integral(model, x, times);
+MomentIntegrals moment_integrals(const BeamModel& model, double x) {
+    MomentIntegrals sum = integrals_of_loads(model, x);
     const int m = model.cantilever_count;
     for (int j = 1; j <= used_entries(model.reaction_count, kMaxSupports); ++j) {
-        total += model.reaction[m + j] * ramp(x - model.reaction_pos[j], times + 1);
+        add_ramp(sum, model.reaction[m + j], x - model.reaction_pos[j], 1);
     }
-    if (m > 0) total -= model.reaction[1] * ramp(x, times);
-    return total;
+    if (m > 0) add_ramp(sum, -model.reaction[1], x, 0);
+    return sum;
 }
 
 }  // namespace flexley

@@ -18,9 +18,15 @@ double load_slope_integral(const BeamModel& model, double x);
 // F(x): the integral from 0 to x of S.
 double load_deflection_integral(const BeamModel& model, double x);
 
+// The moment integrated once (S) and twice (F) from 0 to x.
+struct MomentIntegrals {
+    double once = 0.0;
+    double twice = 0.0;
+};
+
 // The moment of the loads and of the solved reactions (the cantilever moment at x = 0 included)
-// integrated once (times = 1) or twice (times = 2) from 0 to x.
-double moment_integral(const BeamModel& model, double x, int times);
+// integrated once and twice from 0 to x.
+MomentIntegrals moment_integrals(const BeamModel& model, double x);
 
 // A distributed load of zero length carries nothing, and its intensity gradient would be 0/0.
 inline bool has_extent(double start, double end) {

@@ -1,7 +1,6 @@
 // The analysis commands: preconditions, then the engine steps in order, results into the model.
 #include "analysis/run.h"
 
-#include <cmath>
 #include <optional>
 
 #include "analysis/bending_moment.h"
@@ -38,10 +37,6 @@ Status check_supports(const BeamModel& model) {
     if (!cantilever && simple == 1) return Status::failure(kUnstableBeam);
     if (!cantilever && simple == 0) return Status::failure(kNoSupport);
     return Status::success();
-}
-
-bool is_whole_resolution(float resolution) {
-    return resolution_in_range(resolution) && std::floor(resolution) == resolution;
 }
 
 // The reaction system takes fixed supports at x = 0 and at x = L only, one at each end.
@@ -97,7 +92,7 @@ Status run_engine(BeamModel& model, Steps steps, const ContinueQuestion& continu
     model.results_partial = false;
     // The result arrays hold 200,001 points and the grid must end at the beam's end, whatever
     // the model was given.
-    if (!is_whole_resolution(model.resolution)) return Status::failure(kInvalidResolution);
+    if (!is_allowed_resolution(model.resolution)) return Status::failure(kInvalidResolution);
     collect_supports(model);
     if (!fixed_supports_at_ends(model)) return Status::failure(kCantileverPlacement);
     std::optional<Status> outcome;
