@@ -40,30 +40,6 @@ std::string position_text(const BeamModel& model, double position, FeatureUnits 
                       model.sig_figs);
 }
 
-ScaledValue point_load(double magnitude, bool metric, FeatureUnits units) {
-    if (!metric) return {magnitude, " lb."};
-    if (units.mag == "N") return {magnitude, " N"};
-    return {magnitude * kNewtonToKilogram, " kg"};
-}
-
-ScaledValue intensity(double magnitude, bool metric, FeatureUnits units) {
-    if (!metric) {
-        if (units.mag == "pi") return {magnitude, " lb./in."};
-        return {magnitude * kFootToInch, " lb./ft."};
-    }
-    if (units.mag == "N") return {magnitude, " N/m"};
-    return {magnitude * kNewtonToKilogram, " kg/m"};
-}
-
-ScaledValue moment_load(double magnitude, bool metric, FeatureUnits units) {
-    if (!metric) {
-        if (units.mag == "pi") return {magnitude, " lb.-in."};
-        return {magnitude / kFootToInch, " lb.-ft."};
-    }
-    if (units.mag == "N") return {magnitude, " N-m"};
-    return {magnitude * kNewtonToKilogram, " kg-m"};
-}
-
 void append_heading(std::vector<std::string>& lines, const char* heading, std::size_t rule) {
     lines.emplace_back();
     lines.emplace_back(std::string(kItemIndent) + heading);
@@ -75,14 +51,14 @@ template <std::size_t N>
 void append_concentrated(std::vector<std::string>& lines, const BeamModel& model, FeatureKind kind,
                          int count, const std::array<double, N>& magnitudes,
                          const std::array<double, N>& positions,
-                         ScaledValue (*shown)(double, bool, FeatureUnits)) {
+                         ScaledValue (*shown)(double, bool, std::string_view)) {
     for (int k = 1; k <= std::min<int>(count, N - 1); ++k) {
         const FeatureRef entry{kind, k};
         if (is_removed(model, entry)) continue;
         const auto units = units_of(model, entry);
         lines.push_back(
             kItemIndent +
-            value_text(shown(magnitudes[k], model.metric_units, units), model.sig_figs) +
+            value_text(shown(magnitudes[k], model.metric_units, units.mag), model.sig_figs) +
             ", x=" + position_text(model, positions[k], units));
     }
 }
@@ -90,7 +66,7 @@ void append_concentrated(std::vector<std::string>& lines, const BeamModel& model
 void append_point_loads(std::vector<std::string>& lines, const BeamModel& model) {
     append_heading(lines, "Point Loads", 18);
     append_concentrated(lines, model, FeatureKind::point_load, model.pt_count, model.pt_mag,
-                        model.pt_loc, point_load);
+                        model.pt_loc, point_load_shown);
 }
 
 void append_distributed_loads(std::vector<std::string>& lines, const BeamModel& model) {
@@ -100,7 +76,8 @@ void append_distributed_loads(std::vector<std::string>& lines, const BeamModel& 
         if (is_removed(model, entry)) continue;
         const auto units = units_of(model, entry);
         auto end_text = [&](double magnitude, double position) {
-            return value_text(intensity(magnitude, model.metric_units, units), model.sig_figs) +
+            return value_text(intensity_shown(magnitude, model.metric_units, units.mag),
+                              model.sig_figs) +
                    ", x=" + position_text(model, position, units);
         };
         lines.push_back(kItemIndent + std::string("Start=") +
@@ -112,7 +89,7 @@ void append_distributed_loads(std::vector<std::string>& lines, const BeamModel& 
 void append_moments(std::vector<std::string>& lines, const BeamModel& model) {
     append_heading(lines, "Moments", 15);
     append_concentrated(lines, model, FeatureKind::moment, model.mo_count, model.mo_mag,
-                        model.mo_loc, moment_load);
+                        model.mo_loc, moment_load_shown);
 }
 
 // The reactions of the last run, by support feature; a support added since has none.

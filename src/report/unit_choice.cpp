@@ -66,4 +66,29 @@ std::string value_text(ScaledValue value, int sig_figs) {
     return text;
 }
 
+ScaledValue point_load_shown(double magnitude, bool metric, std::string_view mag_unit) {
+    if (!metric) return {magnitude, " lb."};
+    if (mag_unit == "N") return {magnitude, " N"};
+    return {magnitude * kNewtonToKilogram, " kg"};
+}
+
+ScaledValue intensity_shown(double magnitude, bool metric, std::string_view mag_unit) {
+    if (!metric) {
+        // Intensities are held per inch; one entered per foot is shown per foot again.
+        if (mag_unit == "pi") return {magnitude, " lb./in."};
+        return {magnitude * kFootToInch, " lb./ft."};
+    }
+    if (mag_unit == "N") return {magnitude, " N/m"};
+    return {magnitude * kNewtonToKilogram, " kg/m"};
+}
+
+ScaledValue moment_load_shown(double magnitude, bool metric, std::string_view mag_unit) {
+    if (!metric) {
+        if (mag_unit == "pi") return {magnitude, " lb.-in."};
+        return {magnitude / kFootToInch, " lb.-ft."};
+    }
+    if (mag_unit == "N") return {magnitude, " N-m"};
+    return {magnitude * kNewtonToKilogram, " kg-m"};
+}
+
 }  // namespace flexley

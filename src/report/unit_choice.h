@@ -39,6 +39,13 @@ ScaledValue slope_value(double stored, double ei, double pi);
 // A position along the beam: metres, or in English inches or feet.
 ScaledValue position_value(double position, bool metric, bool in_inches);
 
+// A load's magnitude in the unit its feature was entered in (`mag_unit`: "lb", "N", "kg", "pi",
+// "pf"), as labels and the report show it. Metric loads not entered in newtons are shown in
+// kilograms-force, English moments and intensities not entered per inch are shown per foot.
+ScaledValue point_load_shown(double magnitude, bool metric, std::string_view mag_unit);
+ScaledValue intensity_shown(double magnitude, bool metric, std::string_view mag_unit);
+ScaledValue moment_load_shown(double magnitude, bool metric, std::string_view mag_unit);
+
 // The display text: the number to `sig_figs` significant figures followed by its unit.
 std::string value_text(ScaledValue value, int sig_figs);
 

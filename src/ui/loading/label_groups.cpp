@@ -54,31 +54,6 @@ std::array<int, kLabelsPerGroup> load_tops(const ScreenGeometry& geometry, doubl
     return stacked_tops(geometry.beam_y_bottom - h + below_offset);
 }
 
-ScaledValue point_load_value(double magnitude, bool metric, const std::string& mag_unit) {
-    if (!metric) return {magnitude, " lb."};
-    if (mag_unit == "kg") return {magnitude * kNewtonToKilogram, " kg"};
-    return {magnitude, " N"};
-}
-
-ScaledValue intensity_value(double magnitude, bool metric, const std::string& mag_unit) {
-    if (!metric) {
-        // The intensity is held per inch; a load entered per foot is shown per foot again.
-        if (mag_unit == "pf") return {magnitude * kFootToInch, " lb./ft."};
-        return {magnitude, " lb./in."};
-    }
-    if (mag_unit == "kg") return {magnitude * kNewtonToKilogram, " kg/m"};
-    return {magnitude, " N/m"};
-}
-
-ScaledValue moment_value_shown(double magnitude, bool metric, const std::string& mag_unit) {
-    if (!metric) {
-        if (mag_unit == "pf") return {magnitude / kFootToInch, " lb.-ft."};
-        return {magnitude, " lb.-in."};
-    }
-    if (mag_unit == "kg") return {magnitude * kNewtonToKilogram, " kg-m"};
-    return {magnitude, " N-m"};
-}
-
 // Direction is shown by the drawing, so every number is shown without its sign.
 class CaptionWriter {
   public:
@@ -91,14 +66,14 @@ class CaptionWriter {
         const int i = entry.index;
         switch (entry.kind) {
             case FeatureKind::point_load:
-                return concentrated("Point Load", point_load_value, model_.pt_mag[i],
+                return concentrated("Point Load", point_load_shown, model_.pt_mag[i],
                                     model_.pt_loc[i]);
             case FeatureKind::distributed_load:
                 return {"Dist. Load",
                         "start=" + intensity_at(model_.di_mag_start[i], model_.di_start[i]),
                         "end=" + intensity_at(model_.di_mag_end[i], model_.di_end[i])};
             case FeatureKind::moment:
-                return concentrated("Moment", moment_value_shown, model_.mo_mag[i],
+                return concentrated("Moment", moment_load_shown, model_.mo_mag[i],
                                     model_.mo_loc[i]);
             case FeatureKind::support:
                 return {model_.su_type[i] == "simp" ? "Simple Support" : "Cantilever Support",
@@ -108,7 +83,7 @@ class CaptionWriter {
     }
 
   private:
-    using ValueInUnit = ScaledValue (*)(double magnitude, bool metric, const std::string& mag_unit);
+    using ValueInUnit = ScaledValue (*)(double magnitude, bool metric, std::string_view mag_unit);
 
     Captions concentrated(const char* title, ValueInUnit value, double magnitude, double x) const {
         return {title, shown(value(std::abs(magnitude), model_.metric_units, mag_unit_)),
@@ -124,7 +99,7 @@ class CaptionWriter {
     std::string position(double x) const { return "x=" + place(x); }
 
     std::string intensity_at(double magnitude, double x) const {
-        return shown(intensity_value(std::abs(magnitude), model_.metric_units, mag_unit_)) + ", " +
+        return shown(intensity_shown(std::abs(magnitude), model_.metric_units, mag_unit_)) + ", " +
                place(x);
     }
 
