@@ -4,7 +4,10 @@
 set -euo pipefail
 
 FLEXLEY_ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
-FLEXLEY_PACKAGES=(g++ cmake ninja-build libgtest-dev libbenchmark-dev nlohmann-json3-dev)
+# A bare Debian 12 has no fonts at all; Liberation Sans has the metrics of the labels' Arial.
+# xvfb and xauth let the windows run without a screen (xvfb-run scripts/run.sh).
+FLEXLEY_PACKAGES=(g++ cmake ninja-build libgtest-dev libbenchmark-dev nlohmann-json3-dev
+    qt6-base-dev qt6-base-dev-tools libgl-dev fonts-liberation2 fonts-dejavu-core xvfb xauth)
 
 flexley_install_packages() {
     local missing=()

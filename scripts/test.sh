@@ -10,6 +10,8 @@ if [ "${1:-}" = "--sanitize" ]; then
     options=(-DFLEXLEY_SANITIZE=ON -DFLEXLEY_BENCHMARKS=OFF -DCMAKE_BUILD_TYPE=Debug)
     export ASAN_OPTIONS="detect_leaks=1:abort_on_error=1"
     export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1"
+    # Qt and fontconfig keep some memory for the life of the process; only those are suppressed.
+    export LSAN_OPTIONS="suppressions=$FLEXLEY_ROOT/scripts/lsan.supp:print_suppressions=0"
 elif [ -n "${1:-}" ]; then
     echo "usage: scripts/test.sh [--sanitize]" >&2
     exit 1

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScrollArea>
+#include <algorithm>
 
 #include "analysis/reaction_text.h"
 #include "analysis/run.h"
@@ -54,13 +55,11 @@ LoadingScreen::LoadingScreen(BeamModel& model, ProgramSettings& settings, Prompt
       labels_(label_measure(*view_)),
       label_widgets_(*view_) {
     setObjectName("beam");
-    setFont(label_font(false));
-    // The picture keeps the size of the work area it was laid out for; a smaller window scrolls.
-    const DrawingUnitMapping mapping = DrawingUnitMapping::for_device(*this);
-    view_->setFixedSize(
-        mapping.to_pixel_rect(0, 0, geometry_.work_width, geometry_.work_height).size());
+    // The picture fills the window and never shrinks below what it shows: a smaller window
+    // scrolls.
     auto* scroll = new QScrollArea;
     scroll->setObjectName("picture_scroll");
+    scroll->setWidgetResizable(true);
     scroll->setWidget(view_);
     setCentralWidget(scroll);
     build_menus();
@@ -213,6 +212,24 @@ void LoadingScreen::redraw_screen(int pen_mode) {
     show_labels();
 }
 
+// The part of the picture with something in it: the beam, the length caption under it and
+// every label, with a small margin.
+QSize LoadingScreen::picture_extent() const {
+    constexpr int kMargin = 200;
+    constexpr int kCaptionHeight = 500;  // the 14-point length caption and its leading
+    int right = geometry_.beam_x_right + static_cast<int>(geometry_.support_size() / 2);
+    int bottom = geometry_.work_height - geometry_.work_height / 8 + kCaptionHeight;
+    for (const FeatureLabelGroup& group : labels_.groups()) {
+        for (const Label& label : group.labels) {
+            right = std::max(right, label.left + label.width);
+            bottom = std::max(bottom, label.top + label.height);
+        }
+    }
+    return DrawingUnitMapping::for_device(*view_)
+        .to_pixel_rect(0, 0, right + kMargin, bottom + kMargin)
+        .size();
+}
+
 // Reaction texts stand only while the results they come from are those of this beam.
 void LoadingScreen::show_labels() {
     labels_.blank_reaction_texts();
@@ -220,6 +237,7 @@ void LoadingScreen::show_labels() {
         labels_.show_reaction_texts(show_reactions(model_));
     }
     label_widgets_.show(labels_);
+    view_->setMinimumSize(picture_extent());
 }
 
 void LoadingScreen::update_title() {

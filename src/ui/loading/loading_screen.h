@@ -71,6 +71,7 @@ class LoadingScreen final : public QMainWindow {
     void show_beam();
     void redraw_screen(int pen_mode);
     void show_labels();
+    QSize picture_extent() const;
     void update_title();
     void update_unit_commands();
 
