@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 #include <fstream>
 #include <memory>
+#include <stdexcept>
 
 #include "files/preferences.h"
 #include "model/beam_model.h"

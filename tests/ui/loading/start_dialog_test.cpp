@@ -49,16 +49,19 @@ INSTANTIATE_TEST_SUITE_P(Rows, StartDialogLengthTest,
                                            LengthRow{"metric_3", true, false, "3", 3.0, true}),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST(StartDialog, RefusesALengthThatIsNotPositiveAndKeepsTheBeam) {
+TEST(StartDialog, RefusesALengthThatIsNotPositiveYetRetrieveStillAsksForAFile) {
     for (const char* typed : {"0", "-2", "abc", "", "1e999"}) {
         SCOPED_TRACE(typed);
         BeamModel model;
         ScriptedPrompts prompts;
         StartDialog dialog(model, Preferences{}, prompts, StartMode::program_start);
         dialog.show();
+        QSignalSpy retrieve(&dialog, &StartDialog::retrieve_requested);
         child<QLineEdit>(dialog, "Length").setText(typed);
         child<QPushButton>(dialog, "Command1").click();
-        EXPECT_EQ(prompts.texts(), QStringList{kInvalidBeamLength});
+        child<QPushButton>(dialog, "Command2").click();
+        EXPECT_EQ(prompts.texts(), QStringList(2, kInvalidBeamLength));
+        EXPECT_EQ(retrieve.count(), 1);
         EXPECT_TRUE(dialog.isVisible());
         EXPECT_DOUBLE_EQ(model.beam_length, 1200.0);
     }
@@ -125,19 +128,6 @@ TEST(StartDialog, EnterInLengthIsContinueAndTabFollowsTheLayout) {
     QTest::keyClick(&length, Qt::Key_Return);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_DOUBLE_EQ(model.beam_length, 600.0);
-}
-
-TEST(StartDialog, RetrieveAsksForAFileEvenWhenTheLengthIsRefused) {
-    BeamModel model;
-    ScriptedPrompts prompts;
-    StartDialog dialog(model, Preferences{}, prompts, StartMode::program_start);
-    dialog.show();
-    QSignalSpy retrieve(&dialog, &StartDialog::retrieve_requested);
-    child<QLineEdit>(dialog, "Length").setText("-1");
-    child<QPushButton>(dialog, "Command2").click();
-    EXPECT_EQ(retrieve.count(), 1);
-    EXPECT_TRUE(dialog.isVisible());
-    EXPECT_EQ(prompts.texts(), QStringList{kInvalidBeamLength});
 }
 
 }  // namespace
