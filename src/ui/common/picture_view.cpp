@@ -15,9 +15,12 @@ PictureView::PictureView(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+// Painting over the old image would leave the antialiased edges of erased text behind.
 void PictureView::show_picture(drawing::Picture picture) {
     pictures_.clear();
-    add_picture(std::move(picture));
+    pictures_.push_back(std::move(picture));
+    rebuild_backing_image();
+    update();
 }
 
 void PictureView::add_picture(drawing::Picture picture) {
