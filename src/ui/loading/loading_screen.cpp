@@ -238,6 +238,7 @@ void LoadingScreen::show_labels() {
     }
     label_widgets_.show(labels_);
     view_->setMinimumSize(picture_extent());
+    emit beam_shown();
 }
 
 void LoadingScreen::update_title() {

@@ -50,9 +50,17 @@ class LoadingScreen final : public QMainWindow {
     const FeatureLabels& labels() const { return labels_; }
     PictureView& picture_view() { return *view_; }
 
+    // Erases (kPenErase) or draws (kPenDraw) the beam's picture; a draw also creates the label
+    // groups of features added since the last one. Every change of the beam is wrapped in an
+    // erase before and a draw after it.
+    void redraw_screen(int pen_mode);
+
   signals:
     // The window has closed and written the preferences: the program ends.
     void finished();
+    // The picture and labels show the model as it now is: sent after every command that changed
+    // the beam, its display or its results. A window showing results checks results_valid.
+    void beam_shown();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -69,7 +77,6 @@ class LoadingScreen final : public QMainWindow {
 
     void open_start_dialog(StartMode mode);
     void show_beam();
-    void redraw_screen(int pen_mode);
     void show_labels();
     QSize picture_extent() const;
     void update_title();
