@@ -1,0 +1,128 @@
+// The file dialogs' list rules: the sort order, the filter's refreshes and patterns, and the
+// listing of a folder.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "files/directory_listing.h"
+#include "files/file_list.h"
+#include "temp_dir.h"
+
+namespace flexley {
+namespace {
+
+using Names = std::vector<std::string>;
+
+TEST(SortList, SortsInBinaryOrderWhateverTheLength) {
+    const std::pair<Names, Names> rows[] = {
+        {{}, {}},
+        {{"only.lod"}, {"only.lod"}},
+        {{"B.lod", "a.lod", "A.lod"}, {"A.lod", "B.lod", "a.lod"}},
+        {{"b", "a"}, {"a", "b"}},
+        {{"beam10.lod", "beam2.lod", "Beam.lod", "_x", "1.lod"},
+         {"1.lod", "Beam.lod", "_x", "beam10.lod", "beam2.lod"}},
+    };
+    for (auto [list, sorted] : rows) {
+        sort_list(list);
+        EXPECT_EQ(list, sorted);
+    }
+    // Every gap sequence must end fully sorted, including lengths just off a power of two.
+    std::mt19937 random(7);
+    for (std::size_t n : {3u, 7u, 8u, 9u, 31u, 100u}) {
+        Names list;
+        for (std::size_t i = 0; i < n; ++i)
+            list.push_back(std::to_string(random() % 50));
+        Names expected = list;
+        std::sort(expected.begin(), expected.end());
+        sort_list(list);
+        EXPECT_EQ(list, expected) << n << " items";
+    }
+}
+
+TEST(FilterBox, RefreshesWhenAPatternIsCompleteAndOnLeavingOnlyWhenNotDoneYet) {
+    struct Row {
+        const char* text;
+        const char* pattern;
+        bool refresh_on_edit;
+        bool refresh_on_leave;
+    };
+    const Row rows[] = {
+        {kLoadFilesFilter, "*.lod", false, false},
+        {kAllFilesFilter, "*.*", false, false},
+        {"*.*", "*.*", true, false},
+        {"*.dat", "*.dat", true, false},
+        {"*.da", "*.da", false, true},
+        {"beam*.lod", "beam*.lod", true, false},
+        {"beam*", "beam*", false, true},
+        {"*.lodx", "*.lod", false, true},
+        {"", "", false, true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.text);
+        EXPECT_EQ(filter_pattern(row.text), row.pattern);
+        EXPECT_EQ(filter_edit_refreshes(row.text), row.refresh_on_edit);
+        EXPECT_EQ(filter_leave_refreshes(row.text), row.refresh_on_leave);
+    }
+}
+
+TEST(FilterBox, PatternsMatchWholeNamesIgnoringCase) {
+    struct Row {
+        const char* name;
+        const char* pattern;
+        bool matches;
+    };
+    const Row rows[] = {
+        {"beam.lod", "*.lod", true},
+        {"BEAM.LOD", "*.lod", true},
+        {"beam.lod.bak", "*.lod", false},
+        {"beam.lodx", "*.lod", false},
+        {"README", "*.*", true},
+        {"beam1.lod", "beam?.lod", true},
+        {"beam12.lod", "beam?.lod", false},
+        {"a.b.c.lod", "*.*.lod", true},
+        {"beam.lod", "beam*.lod", true},
+        {"abc", "a*b*c*", true},
+        {"acb", "a*b*c", false},
+        {"", "*", true},
+        {"x", "", false},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(matches_pattern(row.name, row.pattern), row.matches)
+            << row.name << " ~ " << row.pattern;
+    }
+}
+
+TEST(DirectoryListing, ListsVisibleFilesAndFoldersAndSaysWhyAFolderCannotBeRead) {
+    TempDir dir;
+    write_test_file(dir.file("beam.lod"), "x");
+    write_test_file(dir.file(".hidden.lod"), "x");
+    std::filesystem::create_directory(dir.path / "sub");
+    std::filesystem::create_directory(dir.path / ".cache");
+    const auto stamp = std::filesystem::file_time_type::clock::now() - std::chrono::hours(48);
+    std::filesystem::last_write_time(dir.file("beam.lod"), stamp);
+
+    const DirectoryListing listing = list_directory(dir.path.string());
+    ASSERT_TRUE(listing.status.ok());
+    EXPECT_EQ(listing.subdirectories, Names{"sub"});
+    ASSERT_EQ(listing.files.size(), 1u);
+    EXPECT_EQ(listing.files[0].name, "beam.lod");
+    const auto now = std::chrono::duration_cast<std::chrono::seconds>(
+                         std::chrono::system_clock::now().time_since_epoch())
+                         .count();
+    EXPECT_NEAR(static_cast<double>(now - listing.files[0].modified), 48 * 3600.0, 60.0);
+
+    for (const std::string& unreadable : {dir.file("missing"), dir.file("beam.lod")}) {
+        const DirectoryListing failed = list_directory(unreadable);
+        EXPECT_FALSE(failed.status.ok());
+        EXPECT_TRUE(
+            failed.status.message().starts_with("The folder " + unreadable + " cannot be read.  "))
+            << failed.status.message();
+    }
+}
+
+}  // namespace
+}  // namespace flexley
