@@ -14,8 +14,11 @@
 #include "model/typed_number.h"
 #include "model/units.h"
 #include "ui/common/picture_view.h"
+#include "ui/dialogs/beam_properties_dialog.h"
+#include "ui/dialogs/feature_dialogs.h"
 #include "ui/loading/beam_picture.h"
 #include "ui/loading/prompt_answers.h"
+#include "ui/results/results_window.h"
 
 namespace flexley {
 namespace {
@@ -53,7 +56,8 @@ LoadingScreen::LoadingScreen(BeamModel& model, ProgramSettings& settings, Prompt
       geometry_(geometry_for(work_area, *this)),
       view_(new PictureView),
       labels_(label_measure(*view_)),
-      label_widgets_(*view_) {
+      label_widgets_(*view_),
+      feature_dialogs_(new FeatureDialogs({model, prompts, *this}, work_area, this)) {
     setObjectName("beam");
     // The picture fills the window and never shrinks below what it shows: a smaller window
     // scrolls.
@@ -99,31 +103,43 @@ void LoadingScreen::build_menus() {
     add_command(file, "saveas", "Save &As", &LoadingScreen::open_save_dialog)->setEnabled(true);
     add_command(
         file, "openloadcfg", "&Open Load Configuration",
-        [this] { open_read_dialog("getload", "Retrieve Load Configuration", LoadFormat::current); },
+        [this] { open_read_dialog(LoadFormat::current); },
         QKeySequence("Ctrl+O"))
         ->setEnabled(true);
     add_command(file, "importloadcfg", "&Import Version 1 File", [this] {
-        open_read_dialog("importload", "Import Version 1 File", LoadFormat::version1);
+        open_read_dialog(LoadFormat::version1);
     })->setEnabled(true);
     add_item(file, "printload", "&Print Load Configuration", QKeySequence("Ctrl+P"));
-    add_item(file, "file_preferences", "P&references");
+    add_command(file, "file_preferences", "P&references", &LoadingScreen::open_preferences_dialog)
+        ->setEnabled(true);
+    add_recent_file_items(file);
     add_command(file, "quitflexley", "E&xit Flexley", &QWidget::close, QKeySequence("Ctrl+X"))
         ->setEnabled(true);
 
     QMenu* feature = add_menu("featmenu", "F&eature");
     QMenu* add_feature = feature->addMenu("&Add Feature");
     add_feature->setObjectName("addfeature");
-    add_item(add_feature, "addpointload", "Add &Point Load", QKeySequence("Ctrl+F1"));
-    add_item(add_feature, "adddistload", "Add &Dist. Load", QKeySequence("Ctrl+F2"));
-    add_item(add_feature, "addmoment", "Add &Moment", QKeySequence("Ctrl+F3"));
-    add_item(add_feature, "addsupport", "Add &Support", QKeySequence("Ctrl+F4"));
-    add_item(feature, "editfeature", "&Edit Feature", QKeySequence("Ctrl+E"));
+    auto add_dialog_item = [&](const char* name, const QString& caption, FeatureKind kind,
+                               const char* shortcut) {
+        add_command(
+            add_feature, name, caption, [this, kind] { feature_dialogs_->open(kind); },
+            QKeySequence(shortcut))
+            ->setEnabled(true);
+    };
+    add_dialog_item("addpointload", "Add &Point Load", FeatureKind::point_load, "Ctrl+F1");
+    add_dialog_item("adddistload", "Add &Dist. Load", FeatureKind::distributed_load, "Ctrl+F2");
+    add_dialog_item("addmoment", "Add &Moment", FeatureKind::moment, "Ctrl+F3");
+    add_dialog_item("addsupport", "Add &Support", FeatureKind::support, "Ctrl+F4");
+    add_command(feature, "editfeature", "&Edit Feature", &LoadingScreen::edit_feature_command,
+                QKeySequence("Ctrl+E"))
+        ->setEnabled(true);
     add_command(feature, "removefeature", "&Remove Feature", &LoadingScreen::remove_feature_command,
                 QKeySequence(Qt::Key_Delete))
         ->setEnabled(true);
 
     QMenu* beam = add_menu("beammenu", "&Beam");
-    add_item(beam, "beamproperties", "&Properties");
+    add_command(beam, "beamproperties", "&Properties", &LoadingScreen::open_beam_properties)
+        ->setEnabled(true);
     add_command(beam, "reinitialize", "&Reinitialize", &LoadingScreen::reinitialize)
         ->setEnabled(true);
 
@@ -160,6 +176,8 @@ void LoadingScreen::build_menus() {
 
 void LoadingScreen::start(const std::optional<std::string>& load_file) {
     load_preferences(settings_, prompts_);
+    model_.integration_method = settings_.extra.integration_method;
+    update_recent_files();
     if (!settings_.preferences.working_files_path.empty()) {
         settings_.last_dir = settings_.preferences.working_files_path;
     }
@@ -183,7 +201,7 @@ void LoadingScreen::open_start_dialog(StartMode mode) {
     dialog->move(work_area_.center() - dialog->rect().center());
     connect(dialog, &QDialog::accepted, this, &LoadingScreen::show_beam);
     connect(dialog, &StartDialog::retrieve_requested, this, [this] {
-        open_read_dialog("getload", "Retrieve Load Configuration", LoadFormat::current);
+        open_read_dialog(LoadFormat::current);
     });
     connect(dialog, &QDialog::rejected, this, [this] {
         // Closing the first dialog ends the program: there is no beam to work on. Closing it at
@@ -210,6 +228,11 @@ void LoadingScreen::show_beam() {
 void LoadingScreen::redraw_screen(int pen_mode) {
     view_->show_picture(flexley::redraw_screen(model_, geometry_, pen_mode, labels_));
     show_labels();
+}
+
+void LoadingScreen::show_edited_feature(int feature_number) {
+    labels_.relabel_feature(model_, geometry_, feature_number);
+    labels_.restack_labels(model_, geometry_, model_.feature_count + 1);
 }
 
 // The part of the picture with something in it: the beam, the length caption under it and
@@ -263,15 +286,25 @@ void LoadingScreen::closeEvent(QCloseEvent* event) {
     emit finished();
 }
 
-void LoadingScreen::remove_feature_command() {
-    const QString answer = prompts_.text("Enter feature number to remove");
-    if (answer.isEmpty()) return;
+// Nothing for Cancel, or for an answer refused with "Invalid feature number".
+std::optional<int> LoadingScreen::ask_feature_number(const QString& prompt) {
+    const QString answer = prompts_.text(prompt);
+    if (answer.isEmpty()) return std::nullopt;
     const std::optional<int> number =
         feature_number_answer(answer.toStdString(), model_.feature_count);
-    if (!number) {
-        prompts_.message(kInvalidFeatureNumberMessage);
-        return;
+    if (!number) prompts_.message(kInvalidFeatureNumberMessage);
+    return number;
+}
+
+void LoadingScreen::edit_feature_command() {
+    if (const std::optional<int> number = ask_feature_number("Enter feature number to edit")) {
+        feature_dialogs_->edit(*number);
     }
+}
+
+void LoadingScreen::remove_feature_command() {
+    const std::optional<int> number = ask_feature_number("Enter feature number to remove");
+    if (!number) return;
     redraw_screen(kPenErase);
     labels_.blank_group(*number);
     remove_feature(model_, *number);
@@ -295,6 +328,15 @@ void LoadingScreen::reinitialize() {
     }
 }
 
+// New properties make the results stale, and the default E is stored even on Cancel, so the
+// reaction texts are reconsidered however the dialog ends.
+void LoadingScreen::open_beam_properties() {
+    auto* dialog = new BeamPropertiesDialog(model_, settings_, prompts_, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::finished, this, &LoadingScreen::show_labels);
+    dialog->open();
+}
+
 void LoadingScreen::calculate(bool reactions_only) {
     const ContinueQuestion keep_iterating = [this] {
         return prompts_.question(kNonConvergenceQuestion, kNonConvergenceTitle);
@@ -305,6 +347,14 @@ void LoadingScreen::calculate(bool reactions_only) {
         prompts_.message(text_of(status.message()), kProgramTitle, text_of(status.detail()));
     }
     show_labels();
+    if (!reactions_only && status.ok()) show_results_window();
+}
+
+void LoadingScreen::show_results_window() {
+    if (!results_window_) {
+        results_window_ = new ResultsWindow(model_, settings_, prompts_, *this, work_area_);
+    }
+    results_window_->show_results();
 }
 
 void LoadingScreen::change_resolution() {

@@ -2,26 +2,30 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QRect>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "files/load_file.h"
 #include "model/beam_model.h"
 #include "ui/common/program_settings.h"
 #include "ui/common/prompts.h"
+#include "ui/dialogs/load_file_dialog.h"
 #include "ui/loading/label_groups.h"
 #include "ui/loading/label_widgets.h"
 #include "ui/loading/screen_geometry.h"
 #include "ui/loading/start_dialog.h"
 
 class QAction;
-class QFileDialog;
 class QMenu;
 
 namespace flexley {
 
+class FeatureDialogs;
 class PictureView;
+class ResultsWindow;
 
 inline constexpr const char* kLoadingScreenTitle = "Flexley: Loading Screen";
 inline constexpr const char* kResolutionTooLarge =
@@ -55,6 +59,15 @@ class LoadingScreen final : public QMainWindow {
     // erase before and a draw after it.
     void redraw_screen(int pen_mode);
 
+    // After a feature dialog's edit: feature n's labels say its new values and stand at its new
+    // place, and every group stands at the kind's new scale. The next draw shows them.
+    void show_edited_feature(int feature_number);
+
+    // The unit and precision commands, which the Calculations Screen shares: both end in a
+    // redraw, after which that screen shows the results in the new units or precision.
+    void change_significant_figures();
+    void convert_to(bool metric);
+
   signals:
     // The window has closed and written the preferences: the program ends.
     void finished();
@@ -84,16 +97,23 @@ class LoadingScreen final : public QMainWindow {
 
     void save();
     void open_save_dialog();
-    void open_read_dialog(const char* name, const QString& caption, LoadFormat format);
-    QFileDialog* file_dialog(const char* name, const QString& caption);
-    void save_chosen_file(const QString& chosen);
+    void open_read_dialog(LoadFormat format);
+    LoadFileDialog* file_dialog(FileDialogKind kind, LoadFileDialog::Command command);
+    bool save_chosen_file(const std::string& directory, const std::string& name);
+    void add_recent_file_items(QMenu* file);
+    void remember_file(const std::string& path);
+    void update_recent_files();
+    void open_recent_file(std::size_t index);
+    void open_preferences_dialog();
 
+    std::optional<int> ask_feature_number(const QString& prompt);
+    void edit_feature_command();
     void remove_feature_command();
     void reinitialize();
+    void open_beam_properties();
     void calculate(bool reactions_only);
     void change_resolution();
-    void change_significant_figures();
-    void convert_to(bool metric);
+    void show_results_window();
 
     BeamModel& model_;
     ProgramSettings& settings_;
@@ -103,8 +123,12 @@ class LoadingScreen final : public QMainWindow {
     PictureView* view_;
     FeatureLabels labels_;
     LabelWidgets label_widgets_;
+    FeatureDialogs* feature_dialogs_;
+    QPointer<ResultsWindow> results_window_;  // until "Return to Loading" deletes it
     QAction* to_metric_ = nullptr;
     QAction* to_english_ = nullptr;
+    std::vector<QAction*> recent_items_;  // the File menu's recent files, newest first
+    QAction* recent_separator_ = nullptr;
 };
 
 }  // namespace flexley
