@@ -1,0 +1,87 @@
+// A Loading Screen with a new beam whose feature dialogs are driven as a user drives them.
+#pragma once
+
+#include <QRadioButton>
+#include <QTest>
+#include <vector>
+
+#include "model/features.h"
+#include "ui/dialogs/feature_dialog.h"
+#include "ui/loading/loading_fixture.h"
+
+namespace flexley::testing {
+
+// Types `text` into the box `control`, replacing what it held; without a text, clicks the option
+// `control`.
+struct Action {
+    const char* control;
+    const char* text = nullptr;
+};
+
+class FeatureDialogFixture : public LoadingFixture {
+  protected:
+    // A beam from the start dialog: English 100 ft (1200 in.) or metric 5 m.
+    void start_beam(bool metric) {
+        window().start();
+        auto& start = child<StartDialog>(window(), "properties");
+        if (metric) child<QRadioButton>(start, "Met").click();
+        child<QLineEdit>(start, "Length").setText(metric ? "5" : "100");
+        child<QPushButton>(start, "Command1").click();
+        discard_closed_windows();
+    }
+
+    // The open dialog named `name`, or none once it has closed.
+    FeatureDialog* open_dialog(const char* name) {
+        return window().findChild<FeatureDialog*>(name);
+    }
+    FeatureDialog& dialog(const char* name) { return child<FeatureDialog>(window(), name); }
+
+    // Edit Feature on feature `number`, as the user answers its prompt.
+    void edit(int number) {
+        prompts.answer_text(QString::number(number));
+        trigger("editfeature");
+    }
+
+    static void act(FeatureDialog& dialog, const std::vector<Action>& actions) {
+        for (const Action& action : actions) {
+            if (!action.text) {
+                child<QRadioButton>(dialog, action.control).click();
+                continue;
+            }
+            auto& box = child<QLineEdit>(dialog, action.control);
+            box.selectAll();
+            QTest::keyClick(&box, Qt::Key_Delete);
+            QTest::keyClicks(&box, action.text);
+        }
+    }
+
+    void press_command1(FeatureDialog& dialog) {
+        QTest::mouseClick(&child<QPushButton>(dialog, "Command1"), Qt::LeftButton);
+        discard_closed_windows();
+    }
+
+    QString box_text(const char* dialog_name, const char* box) {
+        return child<QLineEdit>(dialog(dialog_name), box).text();
+    }
+};
+
+// A feature's table entry: point loads and moments {location, magnitude}, distributed loads
+// {start, end, start intensity, end intensity}, supports {location}.
+inline std::vector<double> stored_values(const BeamModel& model, int number) {
+    const auto feature = lookup_feature(model, number);
+    if (!feature) return {};
+    const int i = feature->index;
+    switch (feature->kind) {
+        case FeatureKind::point_load:
+            return {model.pt_loc[i], model.pt_mag[i]};
+        case FeatureKind::distributed_load:
+            return {model.di_start[i], model.di_end[i], model.di_mag_start[i], model.di_mag_end[i]};
+        case FeatureKind::moment:
+            return {model.mo_loc[i], model.mo_mag[i]};
+        case FeatureKind::support:
+            return {model.su_loc[i]};
+    }
+    return {};
+}
+
+}  // namespace flexley::testing
