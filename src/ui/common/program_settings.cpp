@@ -12,6 +12,7 @@ void load_preferences(ProgramSettings& settings, Prompts& prompts) {
         read.preferences.beam_definition_path.clear();
     }
     settings.preferences = std::move(read.preferences);
+    settings.extra = open_extra_preferences(settings.preferences_dir);
 }
 
 void save_preferences(const ProgramSettings& settings, Prompts& prompts) {
@@ -21,7 +22,9 @@ void save_preferences(const ProgramSettings& settings, Prompts& prompts) {
         saved.beam_definition_path.clear();
     }
     const Status written = write_preferences(saved, settings.preferences_dir);
-    if (!written.ok()) prompts.message(QString::fromStdString(written.message()));
+    const Status extra_written = write_extra_preferences(settings.extra, settings.preferences_dir);
+    const Status& failed = written.ok() ? extra_written : written;
+    if (!failed.ok()) prompts.message(QString::fromStdString(failed.message()));
 }
 
 std::string beam_definition_file(const ProgramSettings& settings) {

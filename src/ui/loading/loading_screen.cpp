@@ -351,7 +351,8 @@ void LoadingScreen::calculate(bool reactions_only) {
 }
 
 void LoadingScreen::show_results_window() {
-    if (!results_window_) {
+    // A window closed by "Return to Loading" is on its way out; the run opens a new one.
+    if (!results_window_ || !results_window_->isVisible()) {
         results_window_ = new ResultsWindow(model_, settings_, prompts_, *this, work_area_);
     }
     results_window_->show_results();
