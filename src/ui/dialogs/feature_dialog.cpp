@@ -52,6 +52,8 @@ UnitField* FeatureDialog::add_units(const UnitSystems& units, int column) {
     field->show_system(model_.metric_units);
     unit_fields_.push_back(field);
     grid_->addWidget(field, row_, column);
+    // Room left by a wide caption goes to the units, not to the boxes.
+    grid_->setColumnStretch(column, 1);
     return field;
 }
 

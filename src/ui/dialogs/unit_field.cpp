@@ -35,7 +35,9 @@ UnitField::UnitField(const UnitSystems& units, QWidget* parent) : QWidget(parent
         build(*side);
         row->addWidget(side->widget);
     }
-    row->addStretch();
+    // The field takes the room of its larger side, so a dialog keeps its size and the rhythm of
+    // its rows in either unit system.
+    setMinimumSize(english_side_.widget->sizeHint().expandedTo(metric_side_.widget->sizeHint()));
     show_system(false);
 }
 

@@ -1,6 +1,7 @@
 // The feature dialogs' shared behaviour: cantilever placement, rescaling after an edit, Cancel,
 // the keyboard, one dialog per kind, full tables, unit switches, and the Overview's typical use.
 #include <QGroupBox>
+#include <QRegularExpression>
 
 #include "model/beam_settings.h"
 #include "model/feature_rules.h"
@@ -47,18 +48,17 @@ TEST_F(FeatureDialogsTest, ACantileverTakesNoLocationFromItsGreyedBox) {
     start_beam(false);
     trigger("addsupport");
     auto& support = dialog("support_info");
-    act(support, {{"suploc", "7"}, {"cantilever"}});
+    act(support, "suploc=7 cantilever");
     EXPECT_FALSE(child<QLineEdit>(support, "suploc").isEnabled());
     EXPECT_FALSE(child<QGroupBox>(support, "engframe1").isEnabled());
-    act(support, {{"simple"}});
+    act(support, "simple");
     EXPECT_TRUE(child<QLineEdit>(support, "suploc").isEnabled());
-    act(support, {{"cantilever"}});
+    act(support, "cantilever");
     press_command1(support);
     EXPECT_EQ(stored_values(model, 1), std::vector<double>{0});
     EXPECT_EQ(model.su_type[1], "cant");
     EXPECT_EQ(model.loc_unit[1], "");
     EXPECT_EQ(model.mag_unit[1], "lb");
-    EXPECT_EQ(caption("sloadtitle1"), "Cantilever Support");
 
     edit(1);
     EXPECT_EQ(prompts.texts().last(), kCantileverCannotMove);
@@ -69,11 +69,11 @@ TEST_F(FeatureDialogsTest, EditingTheLargestLoadDownRescalesEveryGroup) {
     start_beam(false);
     for (const char* magnitude : {"100", "50"}) {
         trigger("addpointload");
-        act(dialog("load_info"), {{"loadloc", "2"}, {"loadmag", magnitude}});
+        act(dialog("load_info"), QString("loadloc=2 loadmag=") + magnitude);
         press_command1(dialog("load_info"));
     }
     edit(1);
-    act(dialog("load_info"), {{"loadloc", "4"}, {"loadmag", "10"}});
+    act(dialog("load_info"), "loadloc=4 loadmag=10");
     press_command1(dialog("load_info"));
 
     EXPECT_EQ(model.pt_maxmag, 50);
@@ -90,14 +90,14 @@ TEST_F(FeatureDialogsTest, EditingTheLargestLoadDownRescalesEveryGroup) {
     EXPECT_EQ(caption("loadlab21"), "x=4 ft.");
 }
 
-TEST_F(FeatureDialogsTest, CancelEndsAnEditAndTheNextCommandAdds) {
+TEST_F(FeatureDialogsTest, CancelEndsAnEditTheNextCommandAddsARemovedFeatureIsNotEdited) {
     start_beam(false);
     add_support(model, 60, "simp", "ft", "lb");
     trigger("redrawscreen");
     edit(1);
     FeatureDialog& support = dialog("support_info");
     EXPECT_FALSE(child<QGroupBox>(support, "Frame1").isEnabled());
-    act(support, {{"suploc", "9"}});
+    act(support, "suploc=9");
     QTest::mouseClick(&child<QPushButton>(support, "Command2"), Qt::LeftButton);
     EXPECT_FALSE(support.editing_feature());
     EXPECT_EQ(support.windowTitle(), "Add Support");
@@ -108,60 +108,50 @@ TEST_F(FeatureDialogsTest, CancelEndsAnEditAndTheNextCommandAdds) {
     EXPECT_EQ(stored_values(model, 1), std::vector<double>{60});
 
     trigger("addsupport");
-    act(dialog("support_info"), {{"suploc", "9"}});
+    act(dialog("support_info"), "suploc=9");
     press_command1(dialog("support_info"));
     EXPECT_EQ(model.feature_count, 2);
     EXPECT_EQ(stored_values(model, 2), std::vector<double>{108});
-}
 
-TEST_F(FeatureDialogsTest, EditFeatureRefusesARemovedFeatureAndOpensNoDialog) {
-    start_beam(false);
-    add_point_load(model, 100, 24, "ft", "lb");
-    trigger("redrawscreen");
     prompts.answer_text("1");
     trigger("removefeature");
     edit(1);
     EXPECT_EQ(prompts.texts().last(), kInvalidFeatureNumber);
-    EXPECT_EQ(open_dialog("load_info"), nullptr);
+    EXPECT_EQ(open_dialog("support_info"), nullptr);
 }
 
 struct KeyboardRow {
     const char* menu;
     const char* dialog;
-    std::vector<Action> values;  // valid values in every box
-    QStringList tab_order;       // from the first box round to it again
+    const char* values;     // valid values in every box, the first box first
+    QStringList tab_order;  // from the first box round to it again
 };
 
 TEST_F(FeatureDialogsTest, FocusStartsInTheFirstBoxTabFollowsTheLayoutEnterAddsFromAnyBox) {
+    // clang-format off
     const KeyboardRow rows[] = {
-        {"addpointload",
-         "load_info",
-         {{"loadloc", "1"}, {"loadmag", "5"}},
+        {"addpointload", "load_info", "loadloc=1 loadmag=5",
          {"feet", "loadmag", "Command1", "Command2", "loadloc"}},
-        {"adddistload",
-         "distload_info",
-         {{"loadstart", "1"}, {"loadend", "2"}, {"loadmag0", "3"}, {"loadmag1", "4"}},
+        {"adddistload", "distload_info", "loadstart=1 loadend=2 loadmag0=3 loadmag1=4",
          {"loadend", "feet", "loadmag0", "loadmag1", "pf", "Command1", "Command2", "loadstart"}},
-        {"addmoment",
-         "moment_info",
-         {{"loadloc", "1"}, {"loadmag", "5"}},
+        {"addmoment", "moment_info", "loadloc=1 loadmag=5",
          {"feet", "loadmag", "pf", "Command1", "Command2", "loadloc"}},
-        {"addsupport",
-         "support_info",
-         {{"suploc", "1"}},
-         {"feet", "simple", "Command1", "Command2", "suploc"}},
+        {"addsupport", "support_info", "suploc=1", {"feet", "simple", "Command1", "Command2", "suploc"}},
     };
+    // clang-format on
     start_beam(false);
     for (const KeyboardRow& row : rows) {
         SCOPED_TRACE(row.dialog);
-        for (const Action& box : row.values) {
+        const QStringList boxes =
+            QString(row.values).replace(QRegularExpression("=\\S*"), "").split(' ');
+        for (const QString& box : boxes) {
             const int features = model.feature_count;
             trigger(row.menu);
             FeatureDialog& dialog = this->dialog(row.dialog);
             QApplication::setActiveWindow(&dialog);
             ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-            EXPECT_EQ(QApplication::focusWidget()->objectName(), row.values.front().control);
-            if (&box == &row.values.front()) {
+            EXPECT_EQ(QApplication::focusWidget()->objectName(), boxes.front());
+            if (box == boxes.front()) {
                 QStringList order;
                 for (int stop = 0; stop < row.tab_order.size(); ++stop) {
                     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -170,12 +160,10 @@ TEST_F(FeatureDialogsTest, FocusStartsInTheFirstBoxTabFollowsTheLayoutEnterAddsF
                 EXPECT_EQ(order, row.tab_order);
             }
             act(dialog, row.values);
-            QTest::keyClick(&child<QLineEdit>(dialog, box.control), Qt::Key_Return);
+            QTest::keyClick(dialog.findChild<QLineEdit*>(box), Qt::Key_Return);
             discard_closed_windows();
-            EXPECT_EQ(model.feature_count, features + 1) << box.control;
+            EXPECT_EQ(model.feature_count, features + 1) << box.toStdString();
             EXPECT_EQ(open_dialog(row.dialog), nullptr);
-            // Supports may not share a place.
-            if (std::string(row.dialog) == "support_info") break;
         }
     }
     trigger("addpointload");
@@ -188,7 +176,7 @@ TEST_F(FeatureDialogsTest, FocusStartsInTheFirstBoxTabFollowsTheLayoutEnterAddsF
 TEST_F(FeatureDialogsTest, AnOpenDialogIsBroughtBackWithWhatWasTyped) {
     start_beam(false);
     trigger("addmoment");
-    act(dialog("moment_info"), {{"loadloc", "3"}});
+    act(dialog("moment_info"), "loadloc=3");
     trigger("addmoment");
     EXPECT_EQ(window().findChildren<FeatureDialog*>("moment_info").size(), 1);
     EXPECT_EQ(box_text("moment_info", "loadloc"), "3");
@@ -213,7 +201,7 @@ TEST_F(FeatureDialogsTest, UnitsFollowAConversionWhileTheDialogIsOpen) {
     trigger("addpointload");
     trigger("metricunits");
     EXPECT_TRUE(child<QLabel>(dialog("load_info"), "Label5").isVisible());
-    act(dialog("load_info"), {{"loadloc", "2"}, {"kg"}, {"loadmag", "1"}});
+    act(dialog("load_info"), "loadloc=2 kg loadmag=1");
     press_command1(dialog("load_info"));
     EXPECT_EQ(stored_values(model, 1), (std::vector<double>{2, 9.80665}));
     EXPECT_EQ(caption("loadlab1"), "1 kg");
@@ -223,11 +211,11 @@ TEST_F(FeatureDialogsTest, UnitsFollowAConversionWhileTheDialogIsOpen) {
 TEST_F(FeatureDialogsTest, TypicalUseGivesEachSupportHalfTheLoad) {
     start_beam(true);
     trigger("addpointload");
-    act(dialog("load_info"), {{"loadloc", "2.5"}, {"loadmag", "2000"}});
+    act(dialog("load_info"), "loadloc=2.5 loadmag=2000");
     press_command1(dialog("load_info"));
     for (const char* at : {"0", "5"}) {
         trigger("addsupport");
-        act(dialog("support_info"), {{"suploc", at}});
+        act(dialog("support_info"), QString("suploc=") + at);
         press_command1(dialog("support_info"));
     }
     ASSERT_TRUE(set_section_properties(model, 8.36e-5, 2.1e11, 0.15).ok());

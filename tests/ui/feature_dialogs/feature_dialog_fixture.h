@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QRadioButton>
+#include <QStringList>
 #include <QTest>
 #include <vector>
 
@@ -10,13 +11,6 @@
 #include "ui/loading/loading_fixture.h"
 
 namespace flexley::testing {
-
-// Types `text` into the box `control`, replacing what it held; without a text, clicks the option
-// `control`.
-struct Action {
-    const char* control;
-    const char* text = nullptr;
-};
 
 class FeatureDialogFixture : public LoadingFixture {
   protected:
@@ -42,16 +36,20 @@ class FeatureDialogFixture : public LoadingFixture {
         trigger("editfeature");
     }
 
-    static void act(FeatureDialog& dialog, const std::vector<Action>& actions) {
-        for (const Action& action : actions) {
-            if (!action.text) {
-                child<QRadioButton>(dialog, action.control).click();
+    // Does what `actions` says, in order: "inch" clicks the option inch, "loadloc=30" types 30
+    // into the box loadloc in place of what it held.
+    static void act(FeatureDialog& dialog, const QString& actions) {
+        for (const QString& action : actions.split(' ', Qt::SkipEmptyParts)) {
+            const QStringList parts = action.split('=');
+            const QByteArray control = parts[0].toLatin1();
+            if (parts.size() == 1) {
+                child<QRadioButton>(dialog, control.constData()).click();
                 continue;
             }
-            auto& box = child<QLineEdit>(dialog, action.control);
+            auto& box = child<QLineEdit>(dialog, control.constData());
             box.selectAll();
             QTest::keyClick(&box, Qt::Key_Delete);
-            QTest::keyClicks(&box, action.text);
+            QTest::keyClicks(&box, parts[1]);
         }
     }
 
