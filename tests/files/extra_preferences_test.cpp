@@ -24,7 +24,7 @@ TEST(RecentFiles, NewestFirstWithoutRepeatsAndAtMostFive) {
     EXPECT_EQ(recent, (Paths{"/f", "/e", "/a", "/c"}));
 }
 
-TEST(ExtraPreferences, SurviveARestartBesideAnUntouchedBeamsPrf) {
+TEST(ExtraPreferences, SurviveARestartInTheirOwnFile) {
     TempDir dir;
     const std::string folder = dir.path.string();
     EXPECT_EQ(open_extra_preferences(folder).integration_method, IntegrationMethod::exact);
@@ -39,7 +39,6 @@ TEST(ExtraPreferences, SurviveARestartBesideAnUntouchedBeamsPrf) {
     const ExtraPreferences read = open_extra_preferences(folder);
     EXPECT_EQ(read.integration_method, IntegrationMethod::trapezoid);
     EXPECT_EQ(read.recent_files, (Paths{"/work/a b.lod", "C:\\old\\v1.lod"}));
-    EXPECT_FALSE(std::filesystem::exists(dir.file(kPreferencesFileName)));
 
     EXPECT_EQ(write_extra_preferences(saved, dir.file("missing")).message(),
               kUnableToSavePreferences);

@@ -215,7 +215,10 @@ void LoadFileDialog::fill_drive_list() {
     const QString home = QDir::homePath();
     drive_list_->addItem(home + "  (home)", home);
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
-        if (!volume.isValid() || !volume.isReady()) continue;
+        // Packaged applications mount read-only images by the dozen; nobody keeps beams there.
+        if (!volume.isValid() || !volume.isReady() || volume.fileSystemType() == "squashfs") {
+            continue;
+        }
         const QString name = volume.name();
         drive_list_->addItem(
             name.isEmpty() ? volume.rootPath() : volume.rootPath() + "  (" + name + ")",
