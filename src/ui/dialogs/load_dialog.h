@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "report/unit_choice.h"
@@ -43,6 +44,21 @@ struct LoadDialogDesign {
     Status (*edit)(BeamModel& model, int number, const LoadValues& values, std::string loc_unit,
                    std::string mag_unit);
 };
+
+// The core's operations for a load at one location (point loads, moments) in a design's terms.
+template <Status (*Add)(BeamModel&, double, double, std::string, std::string)>
+Status add_at_location(BeamModel& model, const LoadValues& values, std::string loc_unit,
+                       std::string mag_unit) {
+    return Add(model, values.magnitudes[0], values.locations[0], std::move(loc_unit),
+               std::move(mag_unit));
+}
+
+template <Status (*Edit)(BeamModel&, int, double, double, std::string, std::string)>
+Status edit_at_location(BeamModel& model, int number, const LoadValues& values,
+                        std::string loc_unit, std::string mag_unit) {
+    return Edit(model, number, values.magnitudes[0], values.locations[0], std::move(loc_unit),
+                std::move(mag_unit));
+}
 
 class LoadDialog final : public FeatureDialog {
     Q_OBJECT

@@ -2,8 +2,6 @@
 // newton-metres.
 #include "ui/dialogs/moment_dialog.h"
 
-#include <utility>
-
 #include "model/feature_edits.h"
 #include "model/units.h"
 
@@ -26,15 +24,8 @@ const LoadDialogDesign& moment_design() {
         [](const BeamModel& model, int i) {
             return LoadValues{{model.mo_loc[i]}, {model.mo_mag[i]}};
         },
-        [](BeamModel& model, const LoadValues& values, std::string loc_unit, std::string mag_unit) {
-            return add_moment(model, values.magnitudes[0], values.locations[0], std::move(loc_unit),
-                              std::move(mag_unit));
-        },
-        [](BeamModel& model, int number, const LoadValues& values, std::string loc_unit,
-           std::string mag_unit) {
-            return edit_moment(model, number, values.magnitudes[0], values.locations[0],
-                               std::move(loc_unit), std::move(mag_unit));
-        },
+        add_at_location<add_moment>,
+        edit_at_location<edit_moment>,
     };
     return design;
 }

@@ -1,8 +1,6 @@
 // The point load dialog load_info: a signed load at a location, in pounds, newtons or kilograms.
 #include "ui/dialogs/point_load_dialog.h"
 
-#include <utility>
-
 #include "model/feature_edits.h"
 
 namespace flexley {
@@ -23,15 +21,8 @@ const LoadDialogDesign& point_load_design() {
         [](const BeamModel& model, int i) {
             return LoadValues{{model.pt_loc[i]}, {model.pt_mag[i]}};
         },
-        [](BeamModel& model, const LoadValues& values, std::string loc_unit, std::string mag_unit) {
-            return add_point_load(model, values.magnitudes[0], values.locations[0],
-                                  std::move(loc_unit), std::move(mag_unit));
-        },
-        [](BeamModel& model, int number, const LoadValues& values, std::string loc_unit,
-           std::string mag_unit) {
-            return edit_point_load(model, number, values.magnitudes[0], values.locations[0],
-                                   std::move(loc_unit), std::move(mag_unit));
-        },
+        add_at_location<add_point_load>,
+        edit_at_location<edit_point_load>,
     };
     return design;
 }
