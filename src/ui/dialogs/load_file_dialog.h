@@ -6,6 +6,7 @@
 #include <QString>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "ui/common/program_settings.h"
 #include "ui/common/prompts.h"
