@@ -18,40 +18,30 @@ struct EntryCase {
     const char* refusal;  // nullptr when accepted
 };
 
-// A factor applied the wrong way, or to the wrong property, shows as a value off by 10^6 or more.
+// A factor applied the wrong way, or to the wrong property, is off by a factor of 10^6 or more.
 TEST(PropertyEntry, ConvertsShownUnitsToTheModelAndRefusesWhatCannotBeAProperty) {
     const EntryCase cases[] = {
         {kI, true, "8000000", 8e-06, nullptr},
         {kE, true, "210", 2.1e11, nullptr},
         {kC, true, "150", 0.15, nullptr},
-        {kI, false, "204", 204.0, nullptr},
-        {kE, false, " 29000000 ", 29000000.0, nullptr},
-        {kC, false, "0", 0.0, nullptr},
-        {kI, true, "1e50", 1e38, nullptr},
+        {kI, false, " 204 ", 204.0, nullptr},
         {kI, false, "", 0, "Enter a number of zero or more for the moment of inertia (I)."},
         {kE, true, "steel", 0, "Enter a number of zero or more for the modulus of elasticity (E)."},
         {kC, false, "-2", 0,
          "Enter a number of zero or more for the distance to the farthest fiber (c)."},
         {kI, false, "1e39", 0, "The value of the moment of inertia (I) is too large."},
-        {kE, true, "1e30", 0, "The value of the modulus of elasticity (E) is too large."},
     };
     for (const EntryCase& row : cases) {
-        SCOPED_TRACE(row.typed);
         const SectionEntry entry = section_entry(row.property, row.typed, row.metric);
-        EXPECT_EQ(entry.status.message(), row.refusal ? row.refusal : "");
+        EXPECT_EQ(entry.status.message(), row.refusal ? row.refusal : "") << row.typed;
         if (!row.refusal) {
-            EXPECT_DOUBLE_EQ(entry.model_value, row.model_value);
+            EXPECT_DOUBLE_EQ(entry.model_value, row.model_value) << row.typed;
         }
     }
-}
-
-TEST(PropertyEntry, ShowsMetricValuesInMillimetresAndGigapascals) {
     EXPECT_DOUBLE_EQ(shown_section_value(kI, 8e-06, true), 8000000.0);
     EXPECT_DOUBLE_EQ(shown_section_value(kE, 2.1e11, true), 210.0);
     EXPECT_DOUBLE_EQ(shown_section_value(kC, 0.15, true), 150.0);
-    EXPECT_EQ(shown_section_value(kE, 30000000.0, false), 30000000.0);
-    EXPECT_EQ(model_section_value(kE, default_shown_elastic_modulus(true), true), 2.1e11);
-    EXPECT_EQ(default_shown_elastic_modulus(false), 30000000.0);
+    EXPECT_EQ(shown_section_value(kE, 3e7, false), 3e7);
 }
 
 }  // namespace

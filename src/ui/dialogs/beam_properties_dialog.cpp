@@ -11,6 +11,7 @@
 #include "model/display.h"
 #include "ui/dialogs/inertia_calculator_dialog.h"
 #include "ui/dialogs/section_chooser_dialog.h"
+#include "ui/dialogs/section_dialog_parts.h"
 #include "ui/dialogs/section_unit_frames.h"
 
 namespace flexley {
@@ -43,12 +44,6 @@ double model_value(const BeamModel& model, SectionProperty property) {
             return model.fibre_distance;
     }
     return 0.0;
-}
-
-QPushButton* button(const char* caption, const char* name) {
-    auto* made = new QPushButton(caption);
-    made->setObjectName(name);
-    return made;
 }
 
 }  // namespace
@@ -95,12 +90,12 @@ void BeamPropertiesDialog::lay_out() {
                                                  UnitColumn{"metframe", {"mm^4", "GPa", "mm"}});
     units_->show_system(model_.metric_units);
 
-    auto* calculate = button("Calculate", "Command3");
+    auto* calculate = push_button("Calculate", "Command3");
     calculate->setToolTip("Calculate I and c of a round or rectangular section");
-    auto* choose = button("Choose", "Command4");
+    auto* choose = push_button("Choose", "Command4");
     choose->setToolTip("Choose I and c of a standard section");
-    auto* proceed = button("Continue", "Command1");
-    auto* cancel = button("Cancel", "Command2");
+    auto* proceed = push_button("Continue", "Command1");
+    auto* cancel = push_button("Cancel", "Command2");
     proceed->setDefault(true);
     connect(calculate, &QPushButton::clicked, this, &BeamPropertiesDialog::open_calculator);
     connect(choose, &QPushButton::clicked, this, &BeamPropertiesDialog::open_chooser);
@@ -118,9 +113,7 @@ void BeamPropertiesDialog::lay_out() {
     grid->addLayout(buttons, 3, 0, 1, 3);
     grid->setSizeConstraint(QLayout::SetFixedSize);
 
-    const QList<QWidget*> order{boxes[0], boxes[1], boxes[2], calculate, choose, proceed, cancel};
-    for (int k = 1; k < order.size(); ++k)
-        setTabOrder(order[k - 1], order[k]);
+    set_tab_order({boxes[0], boxes[1], boxes[2], calculate, choose, proceed, cancel});
 }
 
 // A beam without E gets the default at once, so it is there even when the dialog is cancelled.

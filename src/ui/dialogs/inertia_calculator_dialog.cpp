@@ -15,17 +15,12 @@
 #include "ui/common/drawing_units.h"
 #include "ui/common/picture_view.h"
 #include "ui/dialogs/option_frame.h"
+#include "ui/dialogs/section_dialog_parts.h"
 #include "ui/dialogs/section_sketch.h"
 #include "ui/dialogs/section_unit_frames.h"
 
 namespace flexley {
 namespace {
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* name) {
-    widget->setObjectName(name);
-    return widget;
-}
 
 QLabel* caption_for(const char* caption, QLineEdit* box) {
     auto* label = new QLabel(caption);
@@ -142,32 +137,25 @@ void InertiaCalculatorDialog::lay_out() {
     results->addWidget(fibre_distance_, 1, 1);
     results->addWidget(named(new QLabel(metric ? "mm" : "in."), "cunit"), 1, 2);
 
-    auto* calculate = named(new QPushButton("Calculate"), "Calculate");
-    auto* accept = named(new QPushButton("Use These Values"), "Accept");
-    auto* cancel = named(new QPushButton("Cancel"), "Cancel");
+    auto* calculate = push_button("Calculate", "Calculate");
+    auto* accept = push_button("Use These Values", "Accept");
+    auto* cancel = push_button("Cancel", "Cancel");
     calculate->setDefault(true);
     connect(calculate, &QPushButton::clicked, this, &InertiaCalculatorDialog::calculate);
     connect(accept, &QPushButton::clicked, this, &InertiaCalculatorDialog::use_values);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (QPushButton* button : {calculate, accept, cancel})
-        buttons->addWidget(button);
 
     auto* grid = new QGridLayout(this);
     grid->addLayout(options, 0, 0);
     grid->addWidget(dimensions, 1, 0);
-    grid->addWidget(sketch_, 0, 1, 3, 1, Qt::AlignCenter);
-    grid->addWidget(rectangle_note_, 2, 0);
+    grid->addWidget(sketch_, 0, 1, 2, 1, Qt::AlignCenter);
+    grid->addWidget(rectangle_note_, 2, 0, 1, 2);
     grid->addLayout(results, 3, 0, 1, 2);
-    grid->addLayout(buttons, 4, 0, 1, 2);
+    grid->addLayout(button_row({calculate, accept, cancel}), 4, 0, 1, 2);
     grid->setSizeConstraint(QLayout::SetFixedSize);
 
-    const QList<QWidget*> order{round_,          rectangular_, solid_, tube_, outer_diameter_,
-                                inner_diameter_, height_,      width_, wall_, moment_of_inertia_,
-                                fibre_distance_, calculate,    accept, cancel};
-    for (int k = 1; k < order.size(); ++k)
-        setTabOrder(order[k - 1], order[k]);
+    set_tab_order({round_, rectangular_, solid_, tube_, outer_diameter_, inner_diameter_, height_,
+                   width_, wall_, moment_of_inertia_, fibre_distance_, calculate, accept, cancel});
 }
 
 // Round shows its diameters, Rectangular its height, width and note; a solid section has no

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "sections/chooser_values.h"
+#include "ui/dialogs/section_dialog_parts.h"
 
 namespace flexley {
 namespace {
@@ -92,8 +93,9 @@ std::optional<BeamDefinitions> SectionChooserDialog::read_definitions() {
 }
 
 void SectionChooserDialog::build_tabs() {
-    tabs_ = new QTabWidget;
-    tabs_->setObjectName("sectiontabs");
+    tabs_ = named(new QTabWidget, "sectiontabs");
+    // Every caption stays readable: the dialog is at least as wide as the five tabs.
+    tabs_->setUsesScrollButtons(false);
     for (int kind = 0; kind < kSectionKindCount; ++kind) {
         auto* page = new QWidget;
         auto* column = new QVBoxLayout(page);
@@ -119,8 +121,7 @@ void SectionChooserDialog::build_tabs() {
 // Top to bottom: the filter, the tabs with their lists, the values about each axis, the
 // buttons; Tab follows the same order. Enter on a list is "Use X-X Values", Escape Cancel.
 void SectionChooserDialog::lay_out() {
-    filter_ = new QLineEdit;
-    filter_->setObjectName("namefilter");
+    filter_ = named(new QLineEdit, "namefilter");
     filter_->setPlaceholderText("for example W12");
     filter_->installEventFilter(this);
     connect(filter_, &QLineEdit::textChanged, this, &SectionChooserDialog::apply_filter);
@@ -142,41 +143,29 @@ void SectionChooserDialog::lay_out() {
         values->addWidget(fibre_distance_[axis], 2, 1 + axis);
     }
     const bool metric = model_.metric_units;
-    auto* inertia_unit = new QLabel(metric ? "10^6  mm^4" : "in^4");
-    inertia_unit->setObjectName("moiunit");
-    auto* distance_unit = new QLabel(metric ? "mm" : "in");
-    distance_unit->setObjectName("distcunit");
-    values->addWidget(inertia_unit, 1, 3);
-    values->addWidget(distance_unit, 2, 3);
+    values->addWidget(named(new QLabel(metric ? "10^6  mm^4" : "in^4"), "moiunit"), 1, 3);
+    values->addWidget(named(new QLabel(metric ? "mm" : "in"), "distcunit"), 2, 3);
 
-    auto* use_xx = new QPushButton("Use X-X Values");
-    use_xx->setObjectName("acceptx");
+    auto* use_xx = push_button("Use X-X Values", "acceptx");
+    auto* use_yy = push_button("Use Y-Y Values", "accepty");
+    auto* cancel = push_button("Cancel", "Cancel");
     use_xx->setDefault(true);
-    auto* use_yy = new QPushButton("Use Y-Y Values");
-    use_yy->setObjectName("accepty");
-    auto* cancel = new QPushButton("Cancel");
-    cancel->setObjectName("Cancel");
     connect(use_xx, &QPushButton::clicked, this, [this] { use_values(kAxisXX); });
     connect(use_yy, &QPushButton::clicked, this, [this] { use_values(kAxisYY); });
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (QPushButton* button : {use_xx, use_yy, cancel})
-        buttons->addWidget(button);
 
     auto* column = new QVBoxLayout(this);
     column->addLayout(filter_row);
     column->addWidget(tabs_, 1);
     column->addLayout(values);
-    column->addLayout(buttons);
+    column->addLayout(button_row({use_xx, use_yy, cancel}));
 
     QList<QWidget*> order{filter_, tabs_};
     for (QListWidget* list : lists_)
         order << list;
     order << moment_of_inertia_[kAxisXX] << moment_of_inertia_[kAxisYY] << fibre_distance_[kAxisXX]
           << fibre_distance_[kAxisYY] << use_xx << use_yy << cancel;
-    for (int k = 1; k < order.size(); ++k)
-        setTabOrder(order[k - 1], order[k]);
+    set_tab_order(order);
 }
 
 // Filters every tab's list at once, so the filter holds whatever tab is shown. A name the filter

@@ -13,8 +13,8 @@ constexpr drawing::Ink kHollow{drawing::kBlack, kPenErase};
 const drawing::Font kCaptionFont{"Arial", 8.0, false, false};
 
 // Every caption starts at this x, right of the outlines; leaders run to just before it.
-constexpr double kCaptionLeft = 1420.0;
-constexpr double kLeaderEnd = 1380.0;
+constexpr double kCaptionLeft = 1900.0;
+constexpr double kLeaderEnd = 1860.0;
 constexpr double kCaptionHalfHeight = 100.0;
 constexpr double kTick = 60.0;
 
@@ -35,14 +35,14 @@ void add_caption(drawing::Picture& sketch, Point from, const char* caption) {
 }
 
 void add_round(drawing::Picture& sketch, bool tube) {
-    const Point centre{650.0, 900.0};
-    constexpr double kOuter = 550.0;
-    constexpr double kInner = 330.0;
+    const Point centre{850.0, 1150.0};
+    constexpr double kOuter = 750.0;
+    constexpr double kInner = 450.0;
     sketch.add(drawing::Circle{centre, kOuter, kHatch, drawing::Fill::diagonal_cross});
     sketch.add(drawing::Circle{centre, kOuter, kOutline});
     const double left = centre.x - kOuter;
     const double right = centre.x + kOuter;
-    constexpr double kDimensionY = 1700.0;
+    constexpr double kDimensionY = 2250.0;
     for (const double x : {left, right}) {
         sketch.add(drawing::Line{{x, centre.y}, {x, kDimensionY + 2 * kTick}, kOutline});
     }
@@ -56,20 +56,20 @@ void add_round(drawing::Picture& sketch, bool tube) {
 }
 
 void add_rectangular(drawing::Picture& sketch, bool tube) {
-    constexpr double kLeft = 250.0, kRight = 1050.0, kTop = 250.0, kBottom = 1650.0;
-    constexpr double kWall = 150.0;
+    constexpr double kLeft = 300.0, kRight = 1400.0, kTop = 300.0, kBottom = 2200.0;
+    constexpr double kWall = 200.0;
     sketch.add(drawing::Rectangle{
         {kLeft, kTop}, {kRight, kBottom}, kHatch, drawing::Fill::diagonal_cross});
     sketch.add(drawing::Rectangle{{kLeft, kTop}, {kRight, kBottom}, kOutline});
 
-    constexpr double kHeightX = 1250.0;
+    constexpr double kHeightX = 1650.0;
     for (const double y : {kTop, kBottom}) {
         sketch.add(drawing::Line{{kRight, y}, {kHeightX + 2 * kTick, y}, kOutline});
     }
     add_dimension(sketch, {kHeightX, kTop}, {kHeightX, kBottom});
     add_caption(sketch, {kHeightX, (kTop + kBottom) / 2.0}, kHeightCaption);
 
-    constexpr double kWidthY = 1850.0;
+    constexpr double kWidthY = 2450.0;
     for (const double x : {kLeft, kRight}) {
         sketch.add(drawing::Line{{x, kBottom}, {x, kWidthY + 2 * kTick}, kOutline});
     }
@@ -85,7 +85,7 @@ void add_rectangular(drawing::Picture& sketch, bool tube) {
     // The wall is measured across the top flange; its leader rises above the height dimension
     // so that no two lines cross.
     const double wall_x = (kLeft + kRight) / 2.0;
-    constexpr double kLeaderY = 100.0;
+    constexpr double kLeaderY = 120.0;
     add_dimension(sketch, {wall_x, kTop}, {wall_x, kTop + kWall});
     sketch.add(drawing::Line{{wall_x, kTop}, {wall_x, kLeaderY}, kOutline});
     add_caption(sketch, {wall_x, kLeaderY}, kWallCaption);

@@ -6,9 +6,9 @@
 
 namespace flexley {
 
-// The sketch's extent in drawing units: about 2 by 1.4 inches.
-inline constexpr int kSketchWidth = 2880;
-inline constexpr int kSketchHeight = 2000;
+// The sketch's extent in drawing units: 2.5 by 1.875 inches.
+inline constexpr int kSketchWidth = 3600;
+inline constexpr int kSketchHeight = 2700;
 
 // The captions of the calculator's dimension boxes; the sketch labels its dimensions with the
 // same words, so a student can match each box to what it measures.

@@ -10,11 +10,8 @@
 #include <fstream>
 #include <string>
 
-#include "model/beam_model.h"
-#include "ui/common/program_settings.h"
 #include "ui/dialogs/beam_properties_dialog.h"
 #include "ui/loading/loading_fixture.h"
-#include "ui/scripted_prompts.h"
 
 namespace flexley::testing {
 
@@ -22,21 +19,17 @@ class PropertiesFixture : public ::testing::Test {
   protected:
     PropertiesFixture() { settings.shipped_definitions = FLEXLEY_DATA_DIR "/beams.lst"; }
 
-    std::string write_list(const std::string& name, const std::string& text) const {
-        const std::string path = (folder.path() + "/").toStdString() + name;
+    std::string write_list(const std::string& text) const {
+        const std::string path = (folder.path() + "/sections.lst").toStdString();
         std::ofstream(path) << text;
         return path;
     }
 
-    // Replaces a box's text as the user would: select all, then type.
+    // Replaces a box's text as the user would: select all, then type (or delete).
     static void type(QWidget& dialog, const char* box, const QString& text) {
         auto& edit = child<QLineEdit>(dialog, box);
         edit.selectAll();
-        if (text.isEmpty()) {
-            QTest::keyClick(&edit, Qt::Key_Delete);
-        } else {
-            QTest::keyClicks(&edit, text);
-        }
+        text.isEmpty() ? QTest::keyClick(&edit, Qt::Key_Delete) : QTest::keyClicks(&edit, text);
     }
 
     static QString text(const QWidget& dialog, const char* box) {
@@ -47,16 +40,11 @@ class PropertiesFixture : public ::testing::Test {
         QTest::mouseClick(&child<QPushButton>(dialog, button), Qt::LeftButton);
     }
 
-    // The dialog an aid button opened over `owner`, as the user would find it on screen.
+    // The aid a button of `owner` opened over it.
     template <typename Dialog>
     static Dialog& opened(QWidget& owner, const char* button, const char* name) {
         click(owner, button);
         return child<Dialog>(owner, name);
-    }
-
-    // Aids close with deleteLater; tests process no events.
-    static void discard_closed_windows() {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
     QTemporaryDir folder;
