@@ -10,7 +10,7 @@ class QWidget;
 
 namespace flexley {
 
-// Gives a control the design's name, by which tests and the other windows find it.
+// Gives a control its name, by which tests and the other windows find it.
 template <typename Widget>
 Widget* named(Widget* widget, const char* name) {
     widget->setObjectName(name);
