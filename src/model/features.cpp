@@ -13,18 +13,24 @@
 namespace flexley {
 namespace {
 
-// The checks every addition shares; gives the refusal when the kind's table or the list is full.
-Status check_room(const BeamModel& model, int count, int capacity, const char* kind_plural) {
-    if (count >= capacity) {
-        return Status::failure("No more " + std::string(kind_plural) +
-                               " can be added: a beam holds at most " + std::to_string(capacity) +
-                               ".");
+// The capacity of a kind's table and its name in a refusal.
+struct Capacity {
+    int limit;
+    const char* plural;
+};
+
+Capacity capacity_of(FeatureKind kind) {
+    switch (kind) {
+        case FeatureKind::point_load:
+            return {kMaxPointLoads, "point loads"};
+        case FeatureKind::distributed_load:
+            return {kMaxDistributedLoads, "distributed loads"};
+        case FeatureKind::moment:
+            return {kMaxMoments, "moments"};
+        case FeatureKind::support:
+            break;
     }
-    if (model.feature_count >= kMaxFeatures) {
-        return Status::failure("No more features can be added: a beam holds at most " +
-                               std::to_string(kMaxFeatures) + ".");
-    }
-    return Status::success();
+    return {kMaxSupports, "supports"};
 }
 
 // Appends the feature list entry for a table entry just added, with its display unit codes; the
@@ -39,6 +45,20 @@ void append_feature(BeamModel& model, FeatureKind kind, int index, std::string l
 }
 
 }  // namespace
+
+Status check_room(const BeamModel& model, FeatureKind kind) {
+    const Capacity room = capacity_of(kind);
+    if (table_count(model, kind) >= room.limit) {
+        return Status::failure("No more " + std::string(room.plural) +
+                               " can be added: a beam holds at most " + std::to_string(room.limit) +
+                               ".");
+    }
+    if (model.feature_count >= kMaxFeatures) {
+        return Status::failure("No more features can be added: a beam holds at most " +
+                               std::to_string(kMaxFeatures) + ".");
+    }
+    return Status::success();
+}
 
 int table_count(const BeamModel& model, FeatureKind kind) {
     switch (kind) {
@@ -118,7 +138,7 @@ int feature_number_of(const BeamModel& model, FeatureRef feature) {
 
 Status add_point_load(BeamModel& model, double magnitude, double location, std::string loc_unit,
                       std::string mag_unit) {
-    if (auto room = check_room(model, model.pt_count, kMaxPointLoads, "point loads"); !room.ok()) {
+    if (auto room = check_room(model, FeatureKind::point_load); !room.ok()) {
         return room;
     }
     if (auto valid = check_point_load(model, magnitude, location); !valid.ok()) return valid;
@@ -132,8 +152,7 @@ Status add_point_load(BeamModel& model, double magnitude, double location, std::
 
 Status add_distributed_load(BeamModel& model, double start, double end, double mag_start,
                             double mag_end, std::string loc_unit, std::string mag_unit) {
-    if (auto room = check_room(model, model.di_count, kMaxDistributedLoads, "distributed loads");
-        !room.ok()) {
+    if (auto room = check_room(model, FeatureKind::distributed_load); !room.ok()) {
         return room;
     }
     if (auto valid = check_distributed_load(model, start, end, mag_start, mag_end); !valid.ok()) {
@@ -153,7 +172,7 @@ Status add_distributed_load(BeamModel& model, double start, double end, double m
 
 Status add_moment(BeamModel& model, double magnitude, double location, std::string loc_unit,
                   std::string mag_unit) {
-    if (auto room = check_room(model, model.mo_count, kMaxMoments, "moments"); !room.ok()) {
+    if (auto room = check_room(model, FeatureKind::moment); !room.ok()) {
         return room;
     }
     if (auto valid = check_moment(model, magnitude, location); !valid.ok()) return valid;
@@ -167,7 +186,7 @@ Status add_moment(BeamModel& model, double magnitude, double location, std::stri
 
 Status add_support(BeamModel& model, double location, std::string type, std::string loc_unit,
                    std::string mag_unit) {
-    if (auto room = check_room(model, model.su_count, kMaxSupports, "supports"); !room.ok()) {
+    if (auto room = check_room(model, FeatureKind::support); !room.ok()) {
         return room;
     }
     if (auto valid = check_support(model, location, type); !valid.ok()) return valid;

@@ -40,6 +40,10 @@ int feature_number_of(const BeamModel& model, FeatureRef feature);
 
 inline constexpr const char* kInvalidFeatureNumber = "Invalid feature number.";
 
+// Whether one more feature of the kind fits: a full table or feature list gives the refusal that
+// names the limit. Removed features keep their places, so the counts meet the limits.
+Status check_room(const BeamModel& model, FeatureKind kind);
+
 // Adding appends to the kind's table and the feature list and keeps the drawing scale of the kind.
 // A full table or feature list, or a feature the geometry rules refuse (feature_rules.h), refuses
 // the addition and leaves the model as it was.

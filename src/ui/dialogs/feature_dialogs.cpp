@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "model/limits.h"
+#include "model/features.h"
 #include "ui/dialogs/distributed_load_dialog.h"
 #include "ui/dialogs/moment_dialog.h"
 #include "ui/dialogs/point_load_dialog.h"
@@ -12,26 +12,6 @@
 
 namespace flexley {
 namespace {
-
-struct Capacity {
-    int count;
-    int limit;
-    const char* plural;
-};
-
-Capacity capacity(const BeamModel& model, FeatureKind kind) {
-    switch (kind) {
-        case FeatureKind::point_load:
-            return {model.pt_count, kMaxPointLoads, "point loads"};
-        case FeatureKind::distributed_load:
-            return {model.di_count, kMaxDistributedLoads, "distributed loads"};
-        case FeatureKind::moment:
-            return {model.mo_count, kMaxMoments, "moments"};
-        case FeatureKind::support:
-            return {model.su_count, kMaxSupports, "supports"};
-    }
-    return {};
-}
 
 FeatureDialog* create_dialog(const FeatureDialogContext& context, FeatureKind kind) {
     QWidget* window = &context.screen;
@@ -49,21 +29,6 @@ FeatureDialog* create_dialog(const FeatureDialogContext& context, FeatureKind ki
 }
 
 }  // namespace
-
-// Removed features keep their places, so the counts, not the features standing, meet the limits.
-Status room_for(const BeamModel& model, FeatureKind kind) {
-    const Capacity room = capacity(model, kind);
-    if (room.count >= room.limit) {
-        return Status::failure("No more " + std::string(room.plural) +
-                               " can be added: a beam holds at most " + std::to_string(room.limit) +
-                               ".");
-    }
-    if (model.feature_count >= kMaxFeatures) {
-        return Status::failure("No more features can be added: a beam holds at most " +
-                               std::to_string(kMaxFeatures) + ".");
-    }
-    return Status::success();
-}
 
 FeatureDialogs::FeatureDialogs(const FeatureDialogContext& context, const QRect& work_area,
                                QObject* parent)
@@ -89,7 +54,7 @@ FeatureDialog* FeatureDialogs::dialog_for(FeatureKind kind) {
 void FeatureDialogs::open(FeatureKind kind) {
     const QPointer<FeatureDialog>& slot = open_[static_cast<int>(kind)];
     if (!(slot && slot->isVisible())) {
-        if (const Status room = room_for(context_.model, kind); !room.ok()) {
+        if (const Status room = check_room(context_.model, kind); !room.ok()) {
             context_.prompts.message(QString::fromStdString(room.message()));
             return;
         }
