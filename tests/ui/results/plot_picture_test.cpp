@@ -1,0 +1,257 @@
+// The plots as numbers: frames, grid lines, labels and their units, titles, curve points, tips.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "model/beam_model.h"
+#include "ui/results/hover_tip.h"
+#include "ui/results/plot_picture.h"
+
+namespace flexley {
+namespace {
+
+// 19200 x 16000 units: plots from x 2400 to 16800, half height 1600; zero lines at 2667, 7333
+// and 12000.
+const ScreenGeometry kGeometry = screen_geometry(19200, 16000);
+
+BeamModel beam(bool metric, double length, int resolution = 10) {
+    BeamModel model;
+    model.metric_units = metric;
+    model.beam_length = length;
+    model.resolution = static_cast<float>(resolution);
+    model.sig_figs = 4;
+    model.elastic_modulus = 2.0f;
+    model.moment_of_inertia = 5.0f;
+    model.results_valid = true;
+    return model;
+}
+
+std::vector<std::string> texts_of(const drawing::Picture& picture) {
+    std::vector<std::string> texts;
+    for (const auto& text : drawing::shapes_of<drawing::Text>(picture))
+        texts.push_back(text.text);
+    return texts;
+}
+
+// Value labels are the even texts before the title, from the top grid line down.
+std::vector<std::string> value_labels(const drawing::Picture& picture) {
+    std::vector<std::string> labels;
+    const auto texts = texts_of(picture);
+    for (std::size_t i = 0; i + 1 < texts.size(); i += 2)
+        labels.push_back(texts[i]);
+    return labels;
+}
+
+std::vector<std::string> position_labels(const drawing::Picture& picture) {
+    std::vector<std::string> labels;
+    const auto texts = texts_of(picture);
+    for (std::size_t i = 1; i + 1 < texts.size(); i += 2)
+        labels.push_back(texts[i]);
+    return labels;
+}
+
+TEST(PlotPicture, FramesGridLinesAndTitlesStandWhereTheWorkAreaPutsThem) {
+    const BeamModel model = beam(false, 120);
+    const struct {
+        PlotKind kind;
+        int centre;
+        const char* title;
+        double title_x;
+    } rows[] = {
+        {PlotKind::moment, 2667, "MOMENT", 9600 - 19200.0 / 28},
+        {PlotKind::stress, 7333, "BENDING STRESS", 9600 - 19200.0 / 18},
+        {PlotKind::deflection, 12000, "DEFLECTION", 9600 - 19200.0 / 22},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.title);
+        const drawing::Picture picture = plot_picture(model, row.kind, kGeometry, false);
+        const auto lines = drawing::shapes_of<drawing::Line>(picture);
+        ASSERT_EQ(lines.size(), 15u);  // the zero line, then a horizontal and a vertical per step
+        EXPECT_EQ(lines[0].from, (drawing::Point{2400, double(row.centre)}));
+        EXPECT_EQ(lines[0].to, (drawing::Point{16800, double(row.centre)}));
+        EXPECT_EQ(lines[0].ink.colour, drawing::kBlack);
+        for (int i = -3; i <= 3; ++i) {
+            const auto& horizontal = lines[1 + 2 * (i + 3)];
+            const auto& vertical = lines[2 + 2 * (i + 3)];
+            const double y = row.centre + i * 1600.0 / 3;
+            EXPECT_EQ(horizontal.from, (drawing::Point{16800, y}));
+            EXPECT_EQ(horizontal.to, (drawing::Point{2400, y}));
+            EXPECT_EQ(horizontal.ink.colour, kGridBlue);
+            const double x = 2400 + 2400.0 * (i + 3);
+            EXPECT_EQ(vertical.from, (drawing::Point{x, row.centre - 1600.0}));
+            EXPECT_EQ(vertical.to, (drawing::Point{x, row.centre + 1600.0}));
+        }
+        const auto texts = drawing::shapes_of<drawing::Text>(picture);
+        ASSERT_EQ(texts.size(), 15u);
+        EXPECT_EQ(texts[0].position, (drawing::Point{1120, row.centre - 1600 - 16000.0 / 65}));
+        EXPECT_EQ(texts[1].position, (drawing::Point{2400, row.centre + 1600.0}));
+        EXPECT_EQ(texts[0].ink.colour, kGridBlue);
+        EXPECT_EQ(texts.back().text, row.title);
+        EXPECT_EQ(texts.back().position,
+                  (drawing::Point{row.title_x, row.centre - 1600 - 16000.0 / 30}));
+        EXPECT_TRUE(texts.back().font.bold);
+        EXPECT_EQ(texts.back().font.point_size, 14);
+        EXPECT_EQ(texts.back().ink.colour, drawing::kBlack);
+    }
+}
+
+TEST(PlotPicture, OutlineModeDrawsTheMiddleGridLineTwiceAsHeavy) {
+    const BeamModel model = beam(false, 120);
+    const drawing::Picture picture = plot_picture(model, PlotKind::moment, kGeometry, true);
+    EXPECT_EQ(drawing::shapes_of<drawing::Line>(picture).size(), 14u);
+    const auto bars = drawing::shapes_of<drawing::Rectangle>(picture);
+    ASSERT_EQ(bars.size(), 1u);
+    EXPECT_EQ(bars[0].top_left, (drawing::Point{2400, 2667 - 7.5}));
+    EXPECT_EQ(bars[0].bottom_right, (drawing::Point{16800, 2667 + 7.5}));
+    EXPECT_EQ(bars[0].fill, drawing::Fill::solid);
+}
+
+struct LabelRow {
+    const char* name;
+    PlotKind kind;
+    bool metric;
+    double maximum;  // the stored maximum
+    std::vector<std::string> labels;
+};
+
+class ValueLabels : public ::testing::TestWithParam<LabelRow> {};
+
+// The unit is chosen once from |max|: a maximum on a threshold takes the larger unit.
+TEST_P(ValueLabels, FollowTheMaximumInOneUnit) {
+    const LabelRow& row = GetParam();
+    BeamModel model = beam(row.metric, 120);
+    model.max_moment = model.max_stress = model.max_deflection = row.maximum;
+    EXPECT_EQ(value_labels(plot_picture(model, row.kind, kGeometry, false)), row.labels);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ValueLabels,
+    ::testing::Values(
+        LabelRow{"moment_english_below",
+                 PlotKind::moment,
+                 false,
+                 -999.9,
+                 {"999.9 lb.-in.", "666.6 lb.-in.", "333.3 lb.-in.", "0 lb.-in.", "-333.3 lb.-in.",
+                  "-666.6 lb.-in.", "-999.9 lb.-in."}},
+        LabelRow{"moment_english_at",
+                 PlotKind::moment,
+                 false,
+                 1000,
+                 {"83.33 lb.-ft.", "55.56 lb.-ft.", "27.78 lb.-ft.", "0 lb.-ft.", "-27.78 lb.-ft.",
+                  "-55.56 lb.-ft.", "-83.33 lb.-ft."}},
+        LabelRow{
+            "moment_metric",
+            PlotKind::moment,
+            true,
+            3000,
+            {"3000 N-m", "2000 N-m", "1000 N-m", "0 N-m", "-1000 N-m", "-2000 N-m", "-3000 N-m"}},
+        LabelRow{"stress_metric_pa",
+                 PlotKind::stress,
+                 true,
+                 999,
+                 {"999 Pa", "666 Pa", "333 Pa", "0 Pa", "-333 Pa", "-666 Pa", "-999 Pa"}},
+        LabelRow{
+            "stress_metric_kpa",
+            PlotKind::stress,
+            true,
+            1000,
+            {"1 kPa", "0.6667 kPa", "0.3333 kPa", "0 kPa", "-0.3333 kPa", "-0.6667 kPa", "-1 kPa"}},
+        LabelRow{"stress_metric_mpa",
+                 PlotKind::stress,
+                 true,
+                 3e6,
+                 {"3 MPa", "2 MPa", "1 MPa", "0 MPa", "-1 MPa", "-2 MPa", "-3 MPa"}},
+        LabelRow{"stress_english_ksi",
+                 PlotKind::stress,
+                 false,
+                 30000,
+                 {"30 ksi", "20 ksi", "10 ksi", "0 ksi", "-10 ksi", "-20 ksi", "-30 ksi"}},
+        LabelRow{
+            "stress_english_psi",
+            PlotKind::stress,
+            false,
+            9999,
+            {"9999 psi", "6666 psi", "3333 psi", "0 psi", "-3333 psi", "-6666 psi", "-9999 psi"}},
+        // E x I = 10: the top line carries +|max| / EI, times 1000 in millimetres.
+        LabelRow{"deflection_metric",
+                 PlotKind::deflection,
+                 true,
+                 -30,
+                 {"3000 mm", "2000 mm", "1000 mm", "0 mm", "-1000 mm", "-2000 mm", "-3000 mm"}},
+        LabelRow{"deflection_english",
+                 PlotKind::deflection,
+                 false,
+                 30,
+                 {"3 in.", "2 in.", "1 in.", "0 in.", "-1 in.", "-2 in.", "-3 in."}},
+        LabelRow{"all_zero",
+                 PlotKind::moment,
+                 true,
+                 0,
+                 {"0 N-m", "0 N-m", "0 N-m", "0 N-m", "0 N-m", "0 N-m", "0 N-m"}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(PlotPicture, PositionLabelsReadSixthsOfTheBeamInItsUnit) {
+    BeamModel inches = beam(false, 40);
+    inches.positions_in_inches = true;
+    EXPECT_EQ(position_labels(plot_picture(inches, PlotKind::stress, kGeometry, false)),
+              (std::vector<std::string>{"0 in.", "6.667 in.", "13.33 in.", "20 in.", "26.67 in.",
+                                        "33.33 in.", "40 in."}));
+    EXPECT_EQ(position_labels(plot_picture(beam(false, 120), PlotKind::moment, kGeometry, false)),
+              (std::vector<std::string>{"0 ft.", "1.667 ft.", "3.333 ft.", "5 ft.", "6.667 ft.",
+                                        "8.333 ft.", "10 ft."}));
+    EXPECT_EQ(position_labels(plot_picture(beam(true, 6), PlotKind::moment, kGeometry, false)),
+              (std::vector<std::string>{"0 m", "1 m", "2 m", "3 m", "4 m", "5 m", "6 m"}));
+}
+
+TEST(PlotCurve, RunsThroughEveryCalculatedPointAndAgreesWithTheGridLabels) {
+    BeamModel model = beam(true, 10, 10);
+    model.max_deflection = 4.0;
+    for (int k = 0; k <= 10; ++k)
+        model.deflection[static_cast<std::size_t>(k)] = 0.4 * k - 2.0;
+    model.deflection[3] = -4.0;
+    const PlotCurve curve = plot_curve(model, PlotKind::deflection, kGeometry);
+    ASSERT_EQ(curve.point_count(), 11);
+    EXPECT_EQ(curve.point(0).x, 2400);
+    EXPECT_EQ(curve.point(10).x, 16800);
+    EXPECT_DOUBLE_EQ(curve.point(5).x, 9600);
+    // The stored -|max| is the largest deflection upwards: on the top grid line, labelled
+    // +|max| / EI.
+    EXPECT_DOUBLE_EQ(curve.point(3).y, 12000 - 1600);
+    EXPECT_EQ(value_labels(plot_picture(model, PlotKind::deflection, kGeometry, false)).front(),
+              "400 mm");
+    EXPECT_DOUBLE_EQ(curve.point(0).y, 12000 - 800);
+    EXPECT_DOUBLE_EQ(curve.point(10).y, 12000 + 800);
+
+    model.max_moment = 0.0;
+    EXPECT_EQ(plot_curve(model, PlotKind::moment, kGeometry).point_count(), 0);
+    model.resolution = 200000;
+    model.max_stress = 1.0;
+    EXPECT_EQ(plot_curve(model, PlotKind::stress, kGeometry).point_count(), 200001);
+}
+
+TEST(HoverTip, NamesTheNearestPointInThePlotsUnits) {
+    BeamModel model = beam(false, 120, 10);
+    model.max_moment = 12000.0;
+    model.moment[4] = 6000.0;
+    model.max_deflection = 40.0;
+    model.deflection[10] = 20.0;  // E x I = 10
+    const struct {
+        const char* name;
+        drawing::Point at;
+        std::optional<std::string> tip;
+    } rows[] = {
+        {"moment_near_point_4", {2400 + 4 * 1440 + 500, 2667}, "x = 4 ft.\nMoment = 500 lb.-ft."},
+        {"deflection_at_the_end", {16800, 12000 + 1600}, "x = 10 ft.\nDeflection = -2 in."},
+        {"stress_at_zero", {2400, 7333 - 1600}, "x = 0 ft.\nStress = 0 psi"},
+        {"left_of_the_plot", {2399, 2667}, std::nullopt},
+        {"between_plots", {9600, 2667 + 1601}, std::nullopt},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(hover_tip(model, kGeometry, row.at), row.tip);
+    }
+}
+
+}  // namespace
+}  // namespace flexley

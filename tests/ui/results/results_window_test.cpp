@@ -1,0 +1,160 @@
+// The Calculations Screen: its menus and title, the unit and precision commands, live results
+// while the beam changes, and returning to the Loading Screen.
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStackedWidget>
+
+#include "model/beam_settings.h"
+#include "model/features.h"
+#include "report/maximum_values.h"
+#include "ui/loading/prompt_answers.h"
+#include "ui/results/plot_view.h"
+#include "ui/results/results_fixture.h"
+
+namespace flexley::testing {
+namespace {
+
+struct MenuRow {
+    const char* menu;
+    const char* name;
+    const char* caption;
+    const char* shortcut;
+    bool enabled;  // on an English beam, before the report and help windows exist
+};
+
+const MenuRow kMenuTable[] = {
+    {"filemenu", "showloading", "Return to &Loading", "Alt+Backspace", true},
+    {"filemenu", "printcalc", "&Print Load Cfg. and Calculations", "Ctrl+P", false},
+    {"calc", "max", "Show &Maximum Values", "Ctrl+M", true},
+    {"calc", "point", "Show Values at a &Point", "", true},
+    {"displaymenu", "redrawscreen", "&Redraw", "", true},
+    {"displaymenu", "changesignificantfigures", "Change Display &Significant Figures", "", true},
+    {"unitmenu", "metricunits", "Convert to &Metric", "", true},
+    {"unitmenu", "englishunits", "Convert to &English", "", false},
+    {"helpflexley", "Docflexley", "&Documentation", "F1", false},
+    {"helpflexley", "aboutflexley", "&About Flexley", "", false},
+};
+
+using ResultsWindowTest = ResultsFixture;
+
+bool showing_plots(ResultsWindow& results) {
+    return child<QStackedWidget>(results, "").currentWidget() ==
+           results.findChild<QWidget*>("plot_scroll");
+}
+
+TEST_F(ResultsWindowTest, OpensMaximizedWithTheDesignsMenusAfterACalculation) {
+    ResultsWindow& shown = calculated("simply-supported-point-load.lod");
+    EXPECT_TRUE(shown.isVisible());
+    EXPECT_TRUE(shown.isMaximized());
+    EXPECT_EQ(shown.windowTitle(), "Flexley: Calculations Screen: simply-supported-point-load.lod");
+    EXPECT_TRUE(showing_plots(shown));
+
+    QStringList menus;
+    for (QAction* action : shown.menuBar()->actions())
+        menus << action->text();
+    EXPECT_EQ(menus, (QStringList{"&File", "&Calculate", "&Display", "&Units", "&Help"}));
+    for (const MenuRow& row : kMenuTable) {
+        SCOPED_TRACE(row.name);
+        const QAction& action = child<QAction>(shown, row.name);
+        EXPECT_TRUE(child<QMenu>(shown, row.menu).actions().contains(&action));
+        EXPECT_EQ(action.text(), row.caption);
+        EXPECT_EQ(action.shortcut().toString(), row.shortcut);
+        EXPECT_EQ(action.isEnabled(), row.enabled);
+    }
+}
+
+TEST_F(ResultsWindowTest, ABeamNeverSavedShowsTheTitleAloneAndReturningUnloadsTheWindow) {
+    started();
+    ASSERT_TRUE(add_point_load(model, 1000.0, 600.0, "in", "lb").ok());
+    ASSERT_TRUE(add_support(model, 0.0, "cant", "in", "lb").ok());
+    ASSERT_TRUE(set_section_properties(model, 100.0, 29e6, 5.0).ok());
+    trigger("runcalc");
+    EXPECT_EQ(results().windowTitle(), "Flexley: Calculations Screen");
+
+    trigger_results("showloading");
+    discard_closed_windows();
+    EXPECT_EQ(window().findChild<ResultsWindow*>(), nullptr);
+    trigger("runcalc");
+    EXPECT_TRUE(results().isVisible());
+}
+
+TEST_F(ResultsWindowTest, ConvertingAndBackKeepsThePhysicalResultsAndOneUnitCommand) {
+    ResultsWindow& shown = calculated("propped-cantilever-point-load.lod");
+    const auto enabled = [&] {
+        return std::pair(child<QAction>(shown, "metricunits").isEnabled(),
+                         child<QAction>(shown, "englishunits").isEnabled());
+    };
+    const MaximumValueTexts english = maximum_value_texts(model).texts;
+    const double moment = model.max_moment;
+
+    trigger_results("metricunits");
+    EXPECT_TRUE(model.metric_units);
+    EXPECT_TRUE(model.results_valid);
+    EXPECT_EQ(enabled(), std::pair(false, true));
+    EXPECT_EQ(caption("loadlab1"), "35600 N");  // 8000 lb. relabelled on the Loading Screen
+    EXPECT_NEAR(model.max_moment, moment * 0.0254 * 4.448222, 1e-6 * std::abs(moment));
+    EXPECT_EQ(maximum_value_texts(model).texts.deflection_at, "4.04 m");
+
+    trigger_results("englishunits");
+    EXPECT_EQ(enabled(), std::pair(true, false));
+    EXPECT_EQ(maximum_value_texts(model).texts.moment, english.moment);
+    EXPECT_EQ(maximum_value_texts(model).texts.deflection, english.deflection);
+    EXPECT_EQ(maximum_value_texts(model).texts.deflection_at, english.deflection_at);
+    EXPECT_TRUE(showing_plots(shown));
+    EXPECT_TRUE(prompts.shown().empty());
+}
+
+TEST_F(ResultsWindowTest, SignificantFiguresAskAsTheLoadingScreenDoes) {
+    calculated("simply-supported-point-load.lod");
+    prompts.answer_cancel().answer_text("0").answer_text("5");
+    trigger_results("changesignificantfigures");
+    trigger_results("changesignificantfigures");
+    EXPECT_EQ(model.sig_figs, 3);
+    trigger_results("changesignificantfigures");
+    EXPECT_EQ(model.sig_figs, 5);
+
+    ASSERT_EQ(prompts.shown().size(), 4u);
+    EXPECT_EQ(prompts.shown()[0].title, "Display Significant Figures");
+    EXPECT_TRUE(prompts.shown()[0].text.startsWith(
+        "Current number of display significant figures is 3.  Enter desired number"));
+    EXPECT_EQ(prompts.shown()[2].text, kSignificantFiguresRefused);
+    EXPECT_EQ(maximum_value_texts(model).texts.stress, "8970.6 psi");
+}
+
+// While the window is open every change of the beam is calculated at once; a beam that cannot
+// be calculated shows why, and the plots come back when it can.
+TEST_F(ResultsWindowTest, FollowsEveryChangeOfTheBeam) {
+    ResultsWindow& shown = calculated("simply-supported-point-load.lod");
+    ASSERT_TRUE(add_point_load(model, 5000.0, 60.0, "ft", "lb").ok());
+    trigger("redrawscreen");
+    EXPECT_TRUE(model.results_valid);
+    EXPECT_EQ(maximum_value_texts(model).texts.moment, "37500 lb.-ft.");
+    EXPECT_EQ(caption("sloadlab22"), "3750 lb.");
+
+    prompts.answer_text("3");
+    trigger("removefeature");
+    EXPECT_FALSE(showing_plots(shown));
+    EXPECT_EQ(child<QLabel>(shown, "refusal").text(), "Beam is unstable.  Add more support.");
+    EXPECT_FALSE(child<QAction>(shown, "max").isEnabled());
+    EXPECT_FALSE(child<QAction>(shown, "point").isEnabled());
+
+    ASSERT_TRUE(add_support(model, 240.0, "simp", "in", "lb").ok());
+    trigger("redrawscreen");
+    EXPECT_TRUE(showing_plots(shown));
+    EXPECT_TRUE(child<QAction>(shown, "max").isEnabled());
+    EXPECT_EQ(maximum_value_texts(model).texts.moment, "37500 lb.-ft.");
+    EXPECT_EQ(prompts.texts(), QStringList{"Enter feature number to remove"});
+}
+
+TEST_F(ResultsWindowTest, RedrawRepaintsTheLoadingScreenAndLeavesThePlots) {
+    ResultsWindow& shown = calculated("cantilever-distributed-load.lod");
+    PlotView& plots = child<PlotView>(shown, "plots");
+    const QImage before = plots.backing_image();
+    trigger_results("redrawscreen");
+    EXPECT_EQ(plots.backing_image(), before);
+    EXPECT_EQ(caption("sloadlab21"), "5000 lb., 300000 lb.-in.");
+}
+
+}  // namespace
+}  // namespace flexley::testing
