@@ -16,6 +16,8 @@
 #include "ui/common/picture_view.h"
 #include "ui/dialogs/beam_properties_dialog.h"
 #include "ui/dialogs/feature_dialogs.h"
+#include "ui/dialogs/window_pictures.h"
+#include "ui/help/about_box.h"
 #include "ui/loading/beam_picture.h"
 #include "ui/loading/prompt_answers.h"
 #include "ui/results/results_window.h"
@@ -109,7 +111,10 @@ void LoadingScreen::build_menus() {
     add_command(file, "importloadcfg", "&Import Version 1 File", [this] {
         open_read_dialog(LoadFormat::version1);
     })->setEnabled(true);
-    add_item(file, "printload", "&Print Load Configuration", QKeySequence("Ctrl+P"));
+    add_command(
+        file, "printload", "&Print Load Configuration",
+        [this] { open_print_dialog(PrintOrigin::load, *this); }, QKeySequence("Ctrl+P"))
+        ->setEnabled(true);
     add_command(file, "file_preferences", "P&references", &LoadingScreen::open_preferences_dialog)
         ->setEnabled(true);
     add_recent_file_items(file);
@@ -170,8 +175,13 @@ void LoadingScreen::build_menus() {
         add_command(units, "englishunits", "Convert to &English", [this] { convert_to(false); });
 
     QMenu* help = add_menu("helpflexley", "&Help");
-    add_item(help, "docflexley", "&Documentation", QKeySequence(Qt::Key_F1));
-    add_item(help, "aboutflexley", "&About Flexley");
+    add_command(
+        help, "docflexley", "&Documentation",
+        [this] { open_documentation(*this, HelpOrigin::loading); }, QKeySequence(Qt::Key_F1))
+        ->setEnabled(true);
+    add_command(help, "aboutflexley", "&About Flexley", [this] {
+        open_about(HelpOrigin::loading, *this);
+    })->setEnabled(true);
 }
 
 void LoadingScreen::start(const std::optional<std::string>& load_file) {
@@ -404,6 +414,25 @@ void LoadingScreen::convert_to(bool metric) {
     update_unit_commands();
     labels_.relabel_features(model_);
     show_labels();
+}
+
+// Modal like the design's report dialog, yet without a nested event loop.
+void LoadingScreen::open_print_dialog(PrintOrigin origin, QWidget& over) {
+    const ReportPictures pictures{
+        loading_screen_picture(model_, geometry_, labels_),
+        calculations_screen_picture(model_, geometry_, settings_.preferences.outline_only)};
+    auto* dialog =
+        new PrintDialog(model_, prompts_, origin, pictures, text_of(settings_.last_dir), &over);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowModality(Qt::ApplicationModal);
+    dialog->show();
+}
+
+void LoadingScreen::open_about(HelpOrigin origin, QWidget& over) {
+    auto* about =
+        new AboutBox(prompts_, origin, slides_folder(settings_.shipped_definitions), &over);
+    about->setAttribute(Qt::WA_DeleteOnClose);
+    about->open();
 }
 
 }  // namespace flexley

@@ -13,6 +13,8 @@
 #include "ui/common/program_settings.h"
 #include "ui/common/prompts.h"
 #include "ui/dialogs/load_file_dialog.h"
+#include "ui/dialogs/print_dialog.h"
+#include "ui/help/documentation_window.h"
 #include "ui/loading/label_groups.h"
 #include "ui/loading/label_widgets.h"
 #include "ui/loading/screen_geometry.h"
@@ -67,6 +69,10 @@ class LoadingScreen final : public QMainWindow {
     // redraw, after which that screen shows the results in the new units or precision.
     void change_significant_figures();
     void convert_to(bool metric);
+
+    // Print and About, which the Calculations Screen opens over itself with its own origin.
+    void open_print_dialog(PrintOrigin origin, QWidget& over);
+    void open_about(HelpOrigin origin, QWidget& over);
 
   signals:
     // The window has closed and written the preferences: the program ends.

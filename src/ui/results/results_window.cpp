@@ -91,18 +91,12 @@ QMenu* ResultsWindow::add_menu(const char* name, const QString& caption) {
 }
 
 void ResultsWindow::build_menus() {
-    // Items whose window is not built yet stay in the menu, disabled, so the menu is complete.
-    const auto add_unbuilt = [](QMenu* menu, const char* name, const QString& caption,
-                                const QKeySequence& shortcut = {}) {
-        QAction* action = menu->addAction(caption);
-        action->setObjectName(name);
-        action->setShortcut(shortcut);
-        action->setEnabled(false);
-    };
     QMenu* file = add_menu("filemenu", "&File");
     add_command(file, "showloading", "Return to &Loading", &ResultsWindow::return_to_loading,
                 QKeySequence("Alt+Backspace"));
-    add_unbuilt(file, "printcalc", "&Print Load Cfg. and Calculations", QKeySequence("Ctrl+P"));
+    add_command(
+        file, "printcalc", "&Print Load Cfg. and Calculations",
+        [this] { loading_.open_print_dialog(PrintOrigin::calc, *this); }, QKeySequence("Ctrl+P"));
 
     QMenu* calculate = add_menu("calc", "&Calculate");
     maximum_values_ = add_command(calculate, "max", "Show &Maximum Values",
@@ -122,8 +116,12 @@ void ResultsWindow::build_menus() {
         add_command(units, "englishunits", "Convert to &English", [this] { convert_to(false); });
 
     QMenu* help = add_menu("helpflexley", "&Help");
-    add_unbuilt(help, "Docflexley", "&Documentation", QKeySequence(Qt::Key_F1));
-    add_unbuilt(help, "aboutflexley", "&About Flexley");
+    add_command(
+        help, "Docflexley", "&Documentation",
+        [this] { open_documentation(*this, HelpOrigin::calculations); },
+        QKeySequence(Qt::Key_F1));
+    add_command(help, "aboutflexley", "&About Flexley",
+                [this] { loading_.open_about(HelpOrigin::calculations, *this); });
 }
 
 // A window already open has followed the run that led here.
