@@ -31,7 +31,8 @@ flexley::ProgramSettings program_settings() {
         QDir(QApplication::applicationDirPath() + "/../share/flexley/beams.lst")
             .absolutePath()
             .toStdString();
-    settings.last_dir = settings.start_dir;
+    // The file dialogs start in the home folder until a working path or a visit says otherwise.
+    settings.last_dir = QDir::homePath().toStdString();
     return settings;
 }
 
