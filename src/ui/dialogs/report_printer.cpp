@@ -62,10 +62,16 @@ class PageSequence {
     bool first_ = true;
 };
 
-void print_picture(QPainter& painter, const WindowPicture& picture, const QRectF& page) {
+void print_picture(QPainter& painter, const WindowPicture& picture, QRectF page) {
+    painter.save();
+    if (turn_on_page(picture.extent, page)) {
+        // Turned clockwise, so the picture's top runs down the page's right edge.
+        painter.translate(page.right(), page.top());
+        painter.rotate(90);
+        page = QRectF(0, 0, page.height(), page.width());
+    }
     const QRectF target = fit_to_page(picture.extent, page);
     const double pixels_per_unit = target.width() / picture.extent.width();
-    painter.save();
     painter.translate(target.topLeft());
     painter.setClipRect(QRectF(QPointF(0, 0), target.size()));
     picture.paint(painter, DrawingUnitMapping(pixels_per_unit * kDrawingUnitsPerInch));
@@ -98,6 +104,12 @@ QRectF fit_to_page(const QSizeF& content, const QRectF& page) {
     const double scale = std::min(page.width() / content.width(), page.height() / content.height());
     const QSizeF size = content * scale;
     return {QPointF(page.left() + (page.width() - size.width()) / 2, page.top()), size};
+}
+
+bool turn_on_page(const QSizeF& content, const QRectF& page) {
+    const QSizeF turned(page.height(), page.width());
+    return fit_to_page(content, QRectF(QPointF(), turned)).width() >
+           fit_to_page(content, page).width();
 }
 
 std::vector<std::size_t> page_starts(std::size_t line_count, int lines_per_page) {

@@ -29,6 +29,10 @@ struct WindowPicture {
 // centred across the page and at its top.
 QRectF fit_to_page(const QSizeF& content, const QRectF& page);
 
+// Whether content shows larger turned a quarter turn on the page, as a wide window does on a
+// portrait page.
+bool turn_on_page(const QSizeF& content, const QRectF& page);
+
 // The first line of each page when every page takes `lines_per_page` whole lines (at least one);
 // no pages for no lines.
 std::vector<std::size_t> page_starts(std::size_t line_count, int lines_per_page);
