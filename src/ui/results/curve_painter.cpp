@@ -4,6 +4,7 @@
 #include <QLineF>
 #include <QPainter>
 #include <QPen>
+#include <algorithm>
 #include <cmath>
 
 namespace flexley {
@@ -12,28 +13,54 @@ namespace {
 
 constexpr double kLineWeightUnits = 15.0;  // the picture painter's line weight
 
-// The points of one pixel column: every stroke or segment in it stands at the same x, so only
-// the extremes of their ends matter.
-struct Column {
-    long index = 0;
-    double top = 0.0;  // logical pixels
-    double bottom = 0.0;
+// The first point after `first` that falls in a later column than `column`. The points move
+// right with k, so the column's end is guessed from where the next column starts and then
+// checked against the exact column of the points around the guess: a few column computations
+// per column instead of one per point.
+int column_end(const PlotCurve& curve, const DeviceColumns& columns, long column, int first) {
+    const double next_start = columns.column_start(column + 1);
+    const double guess = std::ceil((next_start - curve.left) * curve.intervals / curve.width);
+    int end = guess > curve.last ? curve.last + 1 : std::max(first + 1, static_cast<int>(guess));
+    while (end > first + 1 && columns.column(curve.x(end - 1)) > column)
+        --end;
+    while (end <= curve.last && columns.column(curve.x(end)) == column)
+        ++end;
+    return end;
+}
 
-    void start(long column, double y) {
-        index = column;
-        top = bottom = y;
+// Calls visit(column, first, end) for every run of points first..end-1 that share a column,
+// from left to right.
+template <typename Visit>
+void for_each_column(const PlotCurve& curve, const DeviceColumns& columns, Visit visit) {
+    for (int first = 0; first <= curve.last;) {
+        const long column = columns.column(curve.x(first));
+        const int end = column_end(curve, columns, column, first);
+        visit(column, first, end);
+        first = end;
     }
-    void add(double y) {
-        top = std::min(top, y);
-        bottom = std::max(bottom, y);
-    }
+}
+
+// The highest and lowest of a run of points, in drawing units: the mapping keeps their order.
+struct Heights {
+    double top;
+    double bottom;
 };
+
+Heights heights(const PlotCurve& curve, int first, int end) {
+    Heights found{curve.y(first), curve.y(first)};
+    for (int k = first + 1; k < end; ++k) {
+        const double y = curve.y(k);
+        found.top = std::min(found.top, y);
+        found.bottom = std::max(found.bottom, y);
+    }
+    return found;
+}
 
 // Strokes from the zero line: the column's highest and lowest reaching strokes cover every
 // other stroke of the column, since a stroke's pixels only grow as its end moves away.
 void paint_strokes(QPainter& painter, const PlotCurve& curve, const DrawingUnitMapping& mapping) {
     const DeviceColumns columns(painter, mapping);
-    const double zero = mapping.to_pixels(curve.centre);
+    const double zero = columns.to_pixels(curve.centre);
     if (!columns.upright()) {
         for (int k = 0; k <= curve.last; ++k) {
             const QPointF end = columns.stroke_point(curve.x(k), curve.y(k));
@@ -41,70 +68,58 @@ void paint_strokes(QPainter& painter, const PlotCurve& curve, const DrawingUnitM
         }
         return;
     }
-    const auto draw_column = [&](const Column& column) {
-        const double x = columns.stroke_x(column.index);
-        draw_segment(painter, QLineF(x, zero, x, column.top));
-        if (column.bottom != column.top) draw_segment(painter, QLineF(x, zero, x, column.bottom));
-    };
-    Column column;
-    column.start(columns.column(curve.x(0)), mapping.to_pixels(curve.y(0)));
-    for (int k = 1; k <= curve.last; ++k) {
-        const long index = columns.column(curve.x(k));
-        const double y = mapping.to_pixels(curve.y(k));
-        if (index == column.index) {
-            column.add(y);
-            continue;
+    for_each_column(curve, columns, [&](long column, int first, int end) {
+        const double x = columns.stroke_x(column);
+        const Heights run = heights(curve, first, end);
+        draw_segment(painter, QLineF(x, zero, x, columns.to_pixels(run.top)));
+        if (run.bottom != run.top) {
+            draw_segment(painter, QLineF(x, zero, x, columns.to_pixels(run.bottom)));
         }
-        draw_column(column);
-        column.start(index, y);
-    }
-    draw_column(column);
+    });
 }
 
 // A polyline: within a column its segments all stand at one x and together span the column's
-// highest to lowest point; the segments between columns are drawn as they are.
+// highest to lowest point; the segment into a column from the one before is drawn as it is.
 void paint_outline(QPainter& painter, const PlotCurve& curve, const DrawingUnitMapping& mapping) {
     const DeviceColumns columns(painter, mapping);
-    QPointF previous = columns.stroke_point(curve.x(0), curve.y(0));
     if (!columns.upright()) {
         for (int k = 1; k <= curve.last; ++k) {
-            const QPointF point = columns.stroke_point(curve.x(k), curve.y(k));
-            draw_segment(painter, QLineF(previous, point));
-            previous = point;
+            draw_segment(painter, QLineF(columns.stroke_point(curve.x(k - 1), curve.y(k - 1)),
+                                         columns.stroke_point(curve.x(k), curve.y(k))));
         }
         return;
     }
-    const auto draw_column = [&](const Column& column) {
-        const double x = columns.stroke_x(column.index);
-        draw_segment(painter, QLineF(x, column.top, x, column.bottom));
-    };
-    Column column;
-    column.start(columns.column(curve.x(0)), previous.y());
-    for (int k = 1; k <= curve.last; ++k) {
-        const long index = columns.column(curve.x(k));
-        const QPointF point(columns.stroke_x(index), mapping.to_pixels(curve.y(k)));
-        if (index == column.index) {
-            column.add(point.y());
-        } else {
-            draw_column(column);
-            draw_segment(painter, QLineF(previous, point));
-            column.start(index, point.y());
-        }
-        previous = point;
-    }
-    draw_column(column);
+    QPointF last_point;
+    for_each_column(curve, columns, [&](long column, int first, int end) {
+        const double x = columns.stroke_x(column);
+        const QPointF first_point(x, columns.to_pixels(curve.y(first)));
+        if (first > 0) draw_segment(painter, QLineF(last_point, first_point));
+        const Heights run = heights(curve, first, end);
+        draw_segment(painter,
+                     QLineF(x, columns.to_pixels(run.top), x, columns.to_pixels(run.bottom)));
+        last_point = QPointF(x, columns.to_pixels(curve.y(end - 1)));
+    });
 }
 
 }  // namespace
 
 DeviceColumns::DeviceColumns(const QPainter& painter, const DrawingUnitMapping& mapping)
-    : mapping_(mapping),
+    : dots_per_inch_(mapping.dots_per_inch()),
       device_(painter.deviceTransform()),
-      upright_(device_.type() <= QTransform::TxScale) {}
+      upright_(device_.type() <= QTransform::TxScale && device_.m11() > 0) {}
+
+// The mapping's own arithmetic, so that a stroke's column is where the mapping puts it.
+double DeviceColumns::to_pixels(double units) const {
+    return units * dots_per_inch_ / kDrawingUnitsPerInch;
+}
 
 long DeviceColumns::column(double x_units) const {
-    return static_cast<long>(
-        std::floor(device_.m11() * mapping_.to_pixels(x_units) + device_.dx()));
+    return static_cast<long>(std::floor(device_.m11() * to_pixels(x_units) + device_.dx()));
+}
+
+double DeviceColumns::column_start(long column) const {
+    const double pixels = (static_cast<double>(column) - device_.dx()) / device_.m11();
+    return pixels * kDrawingUnitsPerInch / dots_per_inch_;
 }
 
 // A quarter of a pixel into the column: well inside it, and clear of the pixel middles where a
@@ -114,8 +129,8 @@ double DeviceColumns::stroke_x(long column) const {
 }
 
 QPointF DeviceColumns::stroke_point(double x_units, double y_units) const {
-    const double y = mapping_.to_pixels(y_units);
-    if (!upright_) return {mapping_.to_pixels(x_units), y};
+    const double y = to_pixels(y_units);
+    if (!upright_) return {to_pixels(x_units), y};
     return {stroke_x(column(x_units)), y};
 }
 

@@ -20,18 +20,22 @@ class DeviceColumns {
   public:
     DeviceColumns(const QPainter& painter, const DrawingUnitMapping& mapping);
 
-    // False under a rotating or shearing transform, where strokes do not stand in columns; every
-    // stroke is then drawn as it is.
+    // False under a transform that rotates, shears or mirrors, where strokes do not stand in
+    // columns from left to right; every stroke is then drawn as it is.
     bool upright() const { return upright_; }
     // The device pixel column of a position across, in drawing units.
     long column(double x_units) const;
+    // Where the column starts, in drawing units: near enough to guess which point is its first.
+    double column_start(long column) const;
     // Where in that column its strokes stand, in the painter's logical coordinates.
     double stroke_x(long column) const;
     // The point a curve point is drawn at: its column's stroke place across, its own height.
     QPointF stroke_point(double x_units, double y_units) const;
+    // Drawing units as the mapping turns them into logical pixels.
+    double to_pixels(double units) const;
 
   private:
-    DrawingUnitMapping mapping_;
+    double dots_per_inch_;
     QTransform device_;
     bool upright_;
 };

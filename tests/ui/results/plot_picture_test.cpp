@@ -27,28 +27,23 @@ BeamModel beam(bool metric, double length, int resolution = 10) {
     return model;
 }
 
-std::vector<std::string> texts_of(const drawing::Picture& picture) {
-    std::vector<std::string> texts;
-    for (const auto& text : drawing::shapes_of<drawing::Text>(picture))
-        texts.push_back(text.text);
-    return texts;
+// The grid labels, from the top grid line down (value labels) or from the left (position
+// labels): the picture gives each step its value label, then its position label, and the title
+// last.
+std::vector<std::string> labels(const drawing::Picture& picture, bool positions) {
+    std::vector<std::string> found;
+    const auto texts = drawing::shapes_of<drawing::Text>(picture);
+    for (std::size_t i = positions ? 1 : 0; i + 1 < texts.size(); i += 2)
+        found.push_back(texts[i].text);
+    return found;
 }
 
-// Value labels are the even texts before the title, from the top grid line down.
 std::vector<std::string> value_labels(const drawing::Picture& picture) {
-    std::vector<std::string> labels;
-    const auto texts = texts_of(picture);
-    for (std::size_t i = 0; i + 1 < texts.size(); i += 2)
-        labels.push_back(texts[i]);
-    return labels;
+    return labels(picture, false);
 }
 
 std::vector<std::string> position_labels(const drawing::Picture& picture) {
-    std::vector<std::string> labels;
-    const auto texts = texts_of(picture);
-    for (std::size_t i = 1; i + 1 < texts.size(); i += 2)
-        labels.push_back(texts[i]);
-    return labels;
+    return labels(picture, true);
 }
 
 TEST(PlotPicture, FramesGridLinesAndTitlesStandWhereTheWorkAreaPutsThem) {

@@ -20,20 +20,20 @@ struct MenuRow {
     const char* name;
     const char* caption;
     const char* shortcut;
-    bool enabled;  // on an English beam, before the report and help windows exist
+    bool enabled;  // on an English beam
 };
 
 const MenuRow kMenuTable[] = {
     {"filemenu", "showloading", "Return to &Loading", "Alt+Backspace", true},
-    {"filemenu", "printcalc", "&Print Load Cfg. and Calculations", "Ctrl+P", false},
+    {"filemenu", "printcalc", "&Print Load Cfg. and Calculations", "Ctrl+P", true},
     {"calc", "max", "Show &Maximum Values", "Ctrl+M", true},
     {"calc", "point", "Show Values at a &Point", "", true},
     {"displaymenu", "redrawscreen", "&Redraw", "", true},
     {"displaymenu", "changesignificantfigures", "Change Display &Significant Figures", "", true},
     {"unitmenu", "metricunits", "Convert to &Metric", "", true},
     {"unitmenu", "englishunits", "Convert to &English", "", false},
-    {"helpflexley", "Docflexley", "&Documentation", "F1", false},
-    {"helpflexley", "aboutflexley", "&About Flexley", "", false},
+    {"helpflexley", "Docflexley", "&Documentation", "F1", true},
+    {"helpflexley", "aboutflexley", "&About Flexley", "", true},
 };
 
 using ResultsWindowTest = ResultsFixture;
