@@ -70,7 +70,10 @@ void PlotView::paintEvent(QPaintEvent* event) {
 void PlotView::mouseMoveEvent(QMouseEvent* event) {
     const DrawingUnitMapping units = mapping();
     const QPointF at = event->position();
-    const auto tip = hover_tip(model_, geometry_, {units.to_units(at.x()), units.to_units(at.y())});
+    const auto tip =
+        results_available(model_)
+            ? hover_tip(model_, geometry_, {units.to_units(at.x()), units.to_units(at.y())})
+            : std::nullopt;
     if (tip) {
         QToolTip::showText(event->globalPosition().toPoint(), QString::fromStdString(*tip), this);
     } else {
