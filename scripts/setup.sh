@@ -5,9 +5,11 @@ set -euo pipefail
 
 FLEXLEY_ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 # A bare Debian 12 has no fonts at all; Liberation Sans has the metrics of the labels' Arial.
-# xvfb and xauth let the windows run without a screen (xvfb-run scripts/run.sh).
+# xvfb and xauth let the windows run without a screen (xvfb-run scripts/run.sh, the journey test);
+# poppler-utils reads back the PDFs the printing tests write.
 FLEXLEY_PACKAGES=(g++ cmake ninja-build libgtest-dev libbenchmark-dev nlohmann-json3-dev
-    qt6-base-dev qt6-base-dev-tools libgl-dev fonts-liberation2 fonts-dejavu-core xvfb xauth)
+    qt6-base-dev qt6-base-dev-tools libgl-dev fonts-liberation2 fonts-dejavu-core xvfb xauth
+    poppler-utils)
 
 flexley_install_packages() {
     local missing=()
