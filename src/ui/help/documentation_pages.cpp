@@ -45,8 +45,8 @@ you.</dd>
 <dt><b>Add Feature</b></dt>
 <dd><b>Add Point Load</b> (Ctrl+F1), <b>Add Dist. Load</b> (Ctrl+F2), <b>Add Moment</b> (Ctrl+F3)
 and <b>Add Support</b> (Ctrl+F4) open the dialog for that kind of feature. Type the magnitude and
-the position in the units offered (pounds or kilograms, inches or feet, newtons or metres); the
-dialog stays open so that several features can be added in a row. Each feature is drawn with a
+the position in the units offered (pounds or kilograms, inches or feet, newtons or metres) and
+add it. Each feature is drawn with a
 number, which names it in the Edit and Remove commands. A beam holds up to 50 point loads,
 50 distributed loads, 50 moments and 20 supports, at most 2 of them fixed (cantilever)
 supports, and 170 features in all.</dd>
