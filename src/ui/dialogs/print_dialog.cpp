@@ -20,22 +20,9 @@
 #include "report/point_values.h"
 #include "report/report_date.h"
 #include "ui/dialogs/option_frame.h"
+#include "ui/dialogs/section_dialog_parts.h"
 
 namespace flexley {
-
-namespace {
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* name) {
-    widget->setObjectName(name);
-    return widget;
-}
-
-QString text_of(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-}  // namespace
 
 PrintDialog::PrintDialog(const BeamModel& model, Prompts& prompts, PrintOrigin origin,
                          ReportPictures pictures, const QString& folder, QWidget* parent)
@@ -215,10 +202,12 @@ void PrintDialog::choose_file(const QString& caption, const QString& filter, con
                               void (PrintDialog::*save)(const QString&)) {
     pending_ = chosen_options();
     if (!pending_) return;
-    const QString folder = model_.current_dir.empty() ? folder_ : text_of(model_.current_dir);
-    const QString name = model_.current_file.empty()
-                             ? QString("report")
-                             : QFileInfo(text_of(model_.current_file)).completeBaseName();
+    const QString folder =
+        model_.current_dir.empty() ? folder_ : QString::fromStdString(model_.current_dir);
+    const QString name =
+        model_.current_file.empty()
+            ? QString("report")
+            : QFileInfo(QString::fromStdString(model_.current_file)).completeBaseName();
     auto* chooser =
         new QFileDialog(this, caption, QDir(folder).filePath(name + "." + suffix), filter);
     chooser->setObjectName("savefile");
@@ -241,7 +230,7 @@ void PrintDialog::write_text(const QString& path) {
     const Status saved =
         save_report_text(path.toStdString(), report_lines(model_, *pending_, today_short_date()));
     if (!saved.ok()) {
-        prompts_.message(text_of(saved.message()));
+        prompts_.message(QString::fromStdString(saved.message()));
         return;
     }
     accept();
@@ -251,7 +240,8 @@ bool PrintDialog::print_on(QPrinter& printer) {
     const Status printed = print_report(printer, chosen_pictures(),
                                         report_lines(model_, *pending_, today_short_date()));
     if (!printed.ok()) {
-        prompts_.message(text_of(printed.message()), kProgramTitle, text_of(printed.detail()));
+        prompts_.message(QString::fromStdString(printed.message()), kProgramTitle,
+                         QString::fromStdString(printed.detail()));
     }
     return printed.ok();
 }
