@@ -122,10 +122,5 @@ TEST_F(HelpTest, AMissingSlideFolderIsSaid) {
     EXPECT_EQ(from.findChild<SlideShow*>(), nullptr);
 }
 
-TEST(SlideCaption, DropsTheOrderNumberAndHyphens) {
-    EXPECT_EQ(slide_caption("/x/03-loading-screen.png"), "Loading screen");
-    EXPECT_EQ(slide_caption("plots.png"), "Plots");
-}
-
 }  // namespace
 }  // namespace flexley::testing
