@@ -1,6 +1,7 @@
 // The flexley program: the start dialog, then the Loading Screen over one beam.
 #include <QApplication>
 #include <QDir>
+#include <QIcon>
 #include <QScreen>
 #include <QStandardPaths>
 #include <cstdlib>
@@ -58,6 +59,8 @@ int main(int argc, char** argv) {
 
     QApplication application(argc, argv);
     QApplication::setApplicationName("flexley");
+    // The icon installed with the desktop file; without an installation the platform's default.
+    QApplication::setWindowIcon(QIcon::fromTheme("flexley"));
 
     flexley::BeamModel model;
     flexley::ProgramSettings settings = program_settings();

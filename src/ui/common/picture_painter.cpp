@@ -15,9 +15,6 @@ namespace flexley {
 
 namespace {
 
-// One screen pixel at the usual 96 dots per inch: lines keep that weight on every surface, so a
-// printed page looks like the screen rather than hair-thin.
-constexpr double kLineWidthUnits = 15.0;
 // The hatch pattern repeats every 8 of its pixels; scaled so that it repeats about every
 // 120 drawing units on a printer too, instead of turning grey at 600 dots per inch.
 constexpr double kHatchRepeatUnits = 120.0;

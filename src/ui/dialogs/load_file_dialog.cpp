@@ -25,21 +25,12 @@
 
 #include "files/directory_listing.h"
 #include "files/file_list.h"
+#include "ui/common/controls.h"
 
 namespace flexley {
 namespace {
 
 constexpr int kPathRole = Qt::UserRole;
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* name) {
-    widget->setObjectName(name);
-    return widget;
-}
-
-QString text_of(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 const char* caption_of(FileDialogKind kind) {
     switch (kind) {

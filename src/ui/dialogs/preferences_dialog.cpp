@@ -13,23 +13,10 @@
 #include <QVBoxLayout>
 
 #include "files/preference_choices.h"
+#include "ui/common/controls.h"
 #include "ui/dialogs/option_frame.h"
 
 namespace flexley {
-namespace {
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* name) {
-    widget->setObjectName(name);
-    return widget;
-}
-
-QString text_of(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-}  // namespace
-
 PreferencesDialog::PreferencesDialog(ProgramSettings& settings, BeamModel& model, Prompts& prompts,
                                      QWidget* parent)
     : QDialog(parent),

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "sections/chooser_values.h"
+#include "ui/common/controls.h"
 #include "ui/dialogs/section_dialog_parts.h"
 
 namespace flexley {
@@ -25,10 +26,6 @@ constexpr std::array<const char*, kSectionKindCount> kHelpTexts{
     "thickness of 1 inch.",
     "Refer to file \"beams.lst\" for instructions on how to enter beams in this list.",
 };
-
-QString text_of(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 // Names are matched without their blanks, so "w12x26" finds "W12 X 26".
 QString without_blanks(QString text) {

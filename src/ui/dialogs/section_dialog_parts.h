@@ -4,18 +4,13 @@
 #include <QList>
 #include <initializer_list>
 
+#include "ui/common/controls.h"
+
 class QHBoxLayout;
 class QPushButton;
 class QWidget;
 
 namespace flexley {
-
-// Gives a control its name, by which tests and the other windows find it.
-template <typename Widget>
-Widget* named(Widget* widget, const char* name) {
-    widget->setObjectName(name);
-    return widget;
-}
 
 QPushButton* push_button(const char* caption, const char* name);
 

@@ -7,6 +7,7 @@
 
 #include "files/file_names.h"
 #include "files/recent_files.h"
+#include "ui/common/controls.h"
 #include "ui/dialogs/preferences_dialog.h"
 #include "ui/loading/beam_picture.h"
 #include "ui/loading/loading_screen.h"
@@ -15,10 +16,6 @@ namespace flexley {
 namespace {
 
 constexpr const char* kNoFileName = "Enter a file name to save under.";
-
-QString text_of(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 // "&2 ~/work/beam.lod": the menu number as access key, the home folder shortened, and any "&"
 // of the path doubled so that it is shown rather than taken for an access key.

@@ -13,6 +13,8 @@
 #include "model/features.h"
 #include "model/typed_number.h"
 #include "model/units.h"
+#include "ui/common/controls.h"
+#include "ui/common/menus.h"
 #include "ui/common/picture_view.h"
 #include "ui/dialogs/beam_properties_dialog.h"
 #include "ui/dialogs/feature_dialogs.h"
@@ -24,10 +26,6 @@
 
 namespace flexley {
 namespace {
-
-QString text_of(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 ScreenGeometry geometry_for(const QRect& work_area, const QWidget& window) {
     const WorkArea units =
@@ -73,115 +71,73 @@ LoadingScreen::LoadingScreen(BeamModel& model, ProgramSettings& settings, Prompt
     update_unit_commands();
 }
 
-template <typename Slot>
-QAction* LoadingScreen::add_command(QMenu* menu, const char* name, const QString& caption,
-                                    Slot slot, const QKeySequence& shortcut) {
-    QAction* action = add_item(menu, name, caption, shortcut);
-    connect(action, &QAction::triggered, this, slot);
-    return action;
-}
-
-QMenu* LoadingScreen::add_menu(const char* name, const QString& caption) {
-    QMenu* menu = menuBar()->addMenu(caption);
-    menu->setObjectName(name);
-    return menu;
-}
-
-// Items whose window is not built yet stay in the menu, disabled, so the menu is complete.
-QAction* LoadingScreen::add_item(QMenu* menu, const char* name, const QString& caption,
-                                 const QKeySequence& shortcut) {
-    QAction* action = menu->addAction(caption);
-    action->setObjectName(name);
-    action->setShortcut(shortcut);
-    action->setEnabled(false);
-    return action;
-}
-
 void LoadingScreen::build_menus() {
-    QMenu* file = add_menu("Filemenu", "&File");
-    add_command(file, "saveloadcfg", "&Save Load Configuration", &LoadingScreen::save,
-                QKeySequence("Ctrl+S"))
-        ->setEnabled(true);
-    add_command(file, "saveas", "Save &As", &LoadingScreen::open_save_dialog)->setEnabled(true);
+    QMenu* file = add_menu(*this, "Filemenu", "&File");
+    add_command(this, file, "saveloadcfg", "&Save Load Configuration", &LoadingScreen::save,
+                QKeySequence("Ctrl+S"));
+    add_command(this, file, "saveas", "Save &As", &LoadingScreen::open_save_dialog);
     add_command(
-        file, "openloadcfg", "&Open Load Configuration",
-        [this] { open_read_dialog(LoadFormat::current); },
-        QKeySequence("Ctrl+O"))
-        ->setEnabled(true);
-    add_command(file, "importloadcfg", "&Import Version 1 File", [this] {
-        open_read_dialog(LoadFormat::version1);
-    })->setEnabled(true);
+        this, file, "openloadcfg", "&Open Load Configuration",
+        [this] { open_read_dialog(LoadFormat::current); }, QKeySequence("Ctrl+O"));
+    add_command(this, file, "importloadcfg", "&Import Version 1 File",
+                [this] { open_read_dialog(LoadFormat::version1); });
     add_command(
-        file, "printload", "&Print Load Configuration",
-        [this] { open_print_dialog(PrintOrigin::load, *this); }, QKeySequence("Ctrl+P"))
-        ->setEnabled(true);
-    add_command(file, "file_preferences", "P&references", &LoadingScreen::open_preferences_dialog)
-        ->setEnabled(true);
+        this, file, "printload", "&Print Load Configuration",
+        [this] { open_print_dialog(PrintOrigin::load, *this); }, QKeySequence("Ctrl+P"));
+    add_command(this, file, "file_preferences", "P&references",
+                &LoadingScreen::open_preferences_dialog);
     add_recent_file_items(file);
-    add_command(file, "quitflexley", "E&xit Flexley", &QWidget::close, QKeySequence("Ctrl+X"))
-        ->setEnabled(true);
+    add_command(this, file, "quitflexley", "E&xit Flexley", &QWidget::close,
+                QKeySequence("Ctrl+X"));
 
-    QMenu* feature = add_menu("featmenu", "F&eature");
+    QMenu* feature = add_menu(*this, "featmenu", "F&eature");
     QMenu* add_feature = feature->addMenu("&Add Feature");
     add_feature->setObjectName("addfeature");
     auto add_dialog_item = [&](const char* name, const QString& caption, FeatureKind kind,
                                const char* shortcut) {
         add_command(
-            add_feature, name, caption, [this, kind] { feature_dialogs_->open(kind); },
-            QKeySequence(shortcut))
-            ->setEnabled(true);
+            this, add_feature, name, caption, [this, kind] { feature_dialogs_->open(kind); },
+            QKeySequence(shortcut));
     };
     add_dialog_item("addpointload", "Add &Point Load", FeatureKind::point_load, "Ctrl+F1");
     add_dialog_item("adddistload", "Add &Dist. Load", FeatureKind::distributed_load, "Ctrl+F2");
     add_dialog_item("addmoment", "Add &Moment", FeatureKind::moment, "Ctrl+F3");
     add_dialog_item("addsupport", "Add &Support", FeatureKind::support, "Ctrl+F4");
-    add_command(feature, "editfeature", "&Edit Feature", &LoadingScreen::edit_feature_command,
-                QKeySequence("Ctrl+E"))
-        ->setEnabled(true);
-    add_command(feature, "removefeature", "&Remove Feature", &LoadingScreen::remove_feature_command,
-                QKeySequence(Qt::Key_Delete))
-        ->setEnabled(true);
+    add_command(this, feature, "editfeature", "&Edit Feature", &LoadingScreen::edit_feature_command,
+                QKeySequence("Ctrl+E"));
+    add_command(this, feature, "removefeature", "&Remove Feature",
+                &LoadingScreen::remove_feature_command, QKeySequence(Qt::Key_Delete));
 
-    QMenu* beam = add_menu("beammenu", "&Beam");
-    add_command(beam, "beamproperties", "&Properties", &LoadingScreen::open_beam_properties)
-        ->setEnabled(true);
-    add_command(beam, "reinitialize", "&Reinitialize", &LoadingScreen::reinitialize)
-        ->setEnabled(true);
+    QMenu* beam = add_menu(*this, "beammenu", "&Beam");
+    add_command(this, beam, "beamproperties", "&Properties", &LoadingScreen::open_beam_properties);
+    add_command(this, beam, "reinitialize", "&Reinitialize", &LoadingScreen::reinitialize);
 
-    QMenu* calculate_menu = add_menu("calcmenu", "&Calculate");
+    QMenu* calculate_menu = add_menu(*this, "calcmenu", "&Calculate");
     add_command(
-        calculate_menu, "runcalc", "&Calculate Stress and Deflection", [this] { calculate(false); },
-        QKeySequence("Ctrl+R"))
-        ->setEnabled(true);
-    add_command(calculate_menu, "supreact", "Calculate Support &Reactions Only", [this] {
-        calculate(true);
-    })->setEnabled(true);
-    add_command(calculate_menu, "changerltn", "C&hange Resolution",
-                &LoadingScreen::change_resolution)
-        ->setEnabled(true);
+        this, calculate_menu, "runcalc", "&Calculate Stress and Deflection",
+        [this] { calculate(false); }, QKeySequence("Ctrl+R"));
+    add_command(this, calculate_menu, "supreact", "Calculate Support &Reactions Only",
+                [this] { calculate(true); });
+    add_command(this, calculate_menu, "changerltn", "C&hange Resolution",
+                &LoadingScreen::change_resolution);
 
-    QMenu* display = add_menu("displayprops", "&Display");
-    add_command(display, "redrawscreen", "&Redraw", [this] {
-        redraw_screen(kPenDraw);
-    })->setEnabled(true);
-    add_command(display, "significantfigs", "Change Display &Significant Figures",
-                &LoadingScreen::change_significant_figures)
-        ->setEnabled(true);
+    QMenu* display = add_menu(*this, "displayprops", "&Display");
+    add_command(this, display, "redrawscreen", "&Redraw", [this] { redraw_screen(kPenDraw); });
+    add_command(this, display, "significantfigs", "Change Display &Significant Figures",
+                &LoadingScreen::change_significant_figures);
 
-    QMenu* units = add_menu("units", "&Units");
+    QMenu* units = add_menu(*this, "units", "&Units");
     to_metric_ =
-        add_command(units, "metricunits", "Convert to &Metric", [this] { convert_to(true); });
-    to_english_ =
-        add_command(units, "englishunits", "Convert to &English", [this] { convert_to(false); });
+        add_command(this, units, "metricunits", "Convert to &Metric", [this] { convert_to(true); });
+    to_english_ = add_command(this, units, "englishunits", "Convert to &English",
+                              [this] { convert_to(false); });
 
-    QMenu* help = add_menu("helpflexley", "&Help");
+    QMenu* help = add_menu(*this, "helpflexley", "&Help");
     add_command(
-        help, "docflexley", "&Documentation",
-        [this] { open_documentation(*this, HelpOrigin::loading); }, QKeySequence(Qt::Key_F1))
-        ->setEnabled(true);
-    add_command(help, "aboutflexley", "&About Flexley", [this] {
-        open_about(HelpOrigin::loading, *this);
-    })->setEnabled(true);
+        this, help, "docflexley", "&Documentation",
+        [this] { open_documentation(*this, HelpOrigin::loading); }, QKeySequence(Qt::Key_F1));
+    add_command(this, help, "aboutflexley", "&About Flexley",
+                [this] { open_about(HelpOrigin::loading, *this); });
 }
 
 void LoadingScreen::start(const std::optional<std::string>& load_file) {
@@ -210,9 +166,8 @@ void LoadingScreen::open_start_dialog(StartMode mode) {
     dialog->adjustSize();
     dialog->move(work_area_.center() - dialog->rect().center());
     connect(dialog, &QDialog::accepted, this, &LoadingScreen::show_beam);
-    connect(dialog, &StartDialog::retrieve_requested, this, [this] {
-        open_read_dialog(LoadFormat::current);
-    });
+    connect(dialog, &StartDialog::retrieve_requested, this,
+            [this] { open_read_dialog(LoadFormat::current); });
     connect(dialog, &QDialog::rejected, this, [this] {
         // Closing the first dialog ends the program: there is no beam to work on. Closing it at
         // Reinitialize keeps the emptied beam with its old length, as answering No does.

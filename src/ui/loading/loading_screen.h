@@ -87,12 +87,6 @@ class LoadingScreen final : public QMainWindow {
 
   private:
     void build_menus();
-    QMenu* add_menu(const char* name, const QString& caption);
-    QAction* add_item(QMenu* menu, const char* name, const QString& caption,
-                      const QKeySequence& shortcut = {});
-    template <typename Slot>
-    QAction* add_command(QMenu* menu, const char* name, const QString& caption, Slot slot,
-                         const QKeySequence& shortcut = {});
 
     void open_start_dialog(StartMode mode);
     void show_beam();

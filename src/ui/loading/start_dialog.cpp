@@ -13,15 +13,10 @@
 #include "model/display.h"
 #include "model/typed_number.h"
 #include "model/units.h"
+#include "ui/common/controls.h"
 
 namespace flexley {
 namespace {
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* name) {
-    widget->setObjectName(name);
-    return widget;
-}
 
 // A frame holding two exclusive option buttons. Only the chosen one takes Tab, so the group is
 // one tab stop; the arrow keys move between its buttons.

@@ -7,11 +7,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/common/picture_painter.h"
+
 namespace flexley {
 
 namespace {
-
-constexpr double kLineWeightUnits = 15.0;  // the picture painter's line weight
 
 // The first point after `first` that falls in a later column than `column`. The points move
 // right with k, so the column's end is guessed from where the next column starts and then
@@ -139,7 +139,7 @@ void draw_segment(QPainter& painter, const QLineF& segment) {
 }
 
 double curve_pen_width(const DrawingUnitMapping& mapping, bool outline_only) {
-    return mapping.to_pixels(outline_only ? 2 * kLineWeightUnits : kLineWeightUnits);
+    return mapping.to_pixels(outline_only ? 2 * kLineWidthUnits : kLineWidthUnits);
 }
 
 void paint_curve(QPainter& painter, const PlotCurve& curve, const DrawingUnitMapping& mapping,

@@ -6,13 +6,13 @@
 
 #include "model/grid.h"
 #include "report/unit_choice.h"
+#include "ui/common/picture_painter.h"
 
 namespace flexley {
 
 namespace {
 
-constexpr int kGridSteps = 3;              // grid lines above and below the zero line
-constexpr double kLineWeightUnits = 15.0;  // the picture painter's line weight
+constexpr int kGridSteps = 3;  // grid lines above and below the zero line
 // The labels use the Loading Screen's label font; the titles stand out above them.
 const drawing::Font kLabelFont{"Arial", 8, false, false};
 const drawing::Font kTitleFont{"Arial", 14, true, false};
@@ -76,7 +76,7 @@ void add_grid_line(drawing::Picture& picture, const PlotFrame& frame, double y, 
         return;
     }
     // A solid bar one line weight high, whose outline makes it two line weights in all.
-    const double half_weight = kLineWeightUnits / 2;
+    const double half_weight = kLineWidthUnits / 2;
     picture.add(drawing::Rectangle{{double(frame.left), y - half_weight},
                                    {double(frame.right), y + half_weight},
                                    blue,

@@ -14,20 +14,11 @@
 #include <QVBoxLayout>
 
 #include "report/point_values.h"
+#include "ui/common/controls.h"
 #include "ui/dialogs/option_frame.h"
 #include "ui/results/readout_box.h"
 
 namespace flexley {
-
-namespace {
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* name) {
-    widget->setObjectName(name);
-    return widget;
-}
-
-}  // namespace
 
 PointValuesDialog::PointValuesDialog(const BeamModel& model, Prompts& prompts, QWidget* parent)
     : QDialog(parent),

@@ -11,6 +11,8 @@
 #include "analysis/results_state.h"
 #include "analysis/run.h"
 #include "report/maximum_values.h"
+#include "ui/common/controls.h"
+#include "ui/common/menus.h"
 #include "ui/loading/loading_screen.h"
 #include "ui/results/maximum_values_dialog.h"
 #include "ui/results/plot_picture.h"
@@ -20,10 +22,6 @@
 namespace flexley {
 
 namespace {
-
-QString text_of(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 QLabel* refusal_label() {
     auto* label = new QLabel;
@@ -74,53 +72,37 @@ ResultsWindow::ResultsWindow(BeamModel& model, const ProgramSettings& settings, 
     connect(&loading, &LoadingScreen::beam_shown, this, &ResultsWindow::follow_beam);
 }
 
-template <typename Slot>
-QAction* ResultsWindow::add_command(QMenu* menu, const char* name, const QString& caption,
-                                    Slot slot, const QKeySequence& shortcut) {
-    QAction* action = menu->addAction(caption);
-    action->setObjectName(name);
-    action->setShortcut(shortcut);
-    connect(action, &QAction::triggered, this, slot);
-    return action;
-}
-
-QMenu* ResultsWindow::add_menu(const char* name, const QString& caption) {
-    QMenu* menu = menuBar()->addMenu(caption);
-    menu->setObjectName(name);
-    return menu;
-}
-
 void ResultsWindow::build_menus() {
-    QMenu* file = add_menu("filemenu", "&File");
-    add_command(file, "showloading", "Return to &Loading", &ResultsWindow::return_to_loading,
+    QMenu* file = add_menu(*this, "filemenu", "&File");
+    add_command(this, file, "showloading", "Return to &Loading", &ResultsWindow::return_to_loading,
                 QKeySequence("Alt+Backspace"));
     add_command(
-        file, "printcalc", "&Print Load Cfg. and Calculations",
+        this, file, "printcalc", "&Print Load Cfg. and Calculations",
         [this] { loading_.open_print_dialog(PrintOrigin::calc, *this); }, QKeySequence("Ctrl+P"));
 
-    QMenu* calculate = add_menu("calc", "&Calculate");
-    maximum_values_ = add_command(calculate, "max", "Show &Maximum Values",
+    QMenu* calculate = add_menu(*this, "calc", "&Calculate");
+    maximum_values_ = add_command(this, calculate, "max", "Show &Maximum Values",
                                   &ResultsWindow::open_maximum_values, QKeySequence("Ctrl+M"));
-    point_values_ = add_command(calculate, "point", "Show Values at a &Point",
+    point_values_ = add_command(this, calculate, "point", "Show Values at a &Point",
                                 &ResultsWindow::open_point_values);
 
-    QMenu* display = add_menu("displaymenu", "&Display");
-    add_command(display, "redrawscreen", "&Redraw", [this] { loading_.redraw_screen(kPenDraw); });
-    add_command(display, "changesignificantfigures", "Change Display &Significant Figures",
+    QMenu* display = add_menu(*this, "displaymenu", "&Display");
+    add_command(this, display, "redrawscreen", "&Redraw",
+                [this] { loading_.redraw_screen(kPenDraw); });
+    add_command(this, display, "changesignificantfigures", "Change Display &Significant Figures",
                 [this] { loading_.change_significant_figures(); });
 
-    QMenu* units = add_menu("unitmenu", "&Units");
+    QMenu* units = add_menu(*this, "unitmenu", "&Units");
     to_metric_ =
-        add_command(units, "metricunits", "Convert to &Metric", [this] { convert_to(true); });
-    to_english_ =
-        add_command(units, "englishunits", "Convert to &English", [this] { convert_to(false); });
+        add_command(this, units, "metricunits", "Convert to &Metric", [this] { convert_to(true); });
+    to_english_ = add_command(this, units, "englishunits", "Convert to &English",
+                              [this] { convert_to(false); });
 
-    QMenu* help = add_menu("helpflexley", "&Help");
+    QMenu* help = add_menu(*this, "helpflexley", "&Help");
     add_command(
-        help, "Docflexley", "&Documentation",
-        [this] { open_documentation(*this, HelpOrigin::calculations); },
-        QKeySequence(Qt::Key_F1));
-    add_command(help, "aboutflexley", "&About Flexley",
+        this, help, "Docflexley", "&Documentation",
+        [this] { open_documentation(*this, HelpOrigin::calculations); }, QKeySequence(Qt::Key_F1));
+    add_command(this, help, "aboutflexley", "&About Flexley",
                 [this] { loading_.open_about(HelpOrigin::calculations, *this); });
 }
 

@@ -41,10 +41,6 @@ class ResultsWindow final : public QMainWindow {
 
   private:
     void build_menus();
-    QMenu* add_menu(const char* name, const QString& caption);
-    template <typename Slot>
-    QAction* add_command(QMenu* menu, const char* name, const QString& caption, Slot slot,
-                         const QKeySequence& shortcut = {});
 
     void follow_beam();
     void show_plots();
