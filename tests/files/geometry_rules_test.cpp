@@ -14,7 +14,7 @@ namespace {
 // pt, mo: magnitude, position; di: start, end, start and end intensity; su: position.
 struct Feature {
     const char* kind;  // "pt", "di", "mo" or "su"
-    double a, b, c = 0, d = 0;
+    double a, b = 0, c = 0, d = 0;
     const char* support = "simp";
 };
 
@@ -86,62 +86,32 @@ TEST_P(RefusedGeometry, IsRefusedByTheCoreAndByTheReader) {
     EXPECT_EQ(read.status.detail(), "Line " + std::to_string(row.line) + ": " + row.reason);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Rules, RefusedGeometry,
-    ::testing::Values(
-        Refused{"load_beyond_the_end",
-                {"pt", 100, 300},
-                kInvalidLoadLocation,
-                "point load position 300 lies outside the beam (0 to 240).",
-                4},
-        Refused{"load_before_the_start",
-                {"pt", 100, -0.01},
-                kInvalidLoadLocation,
-                "point load position -0.01 lies outside the beam (0 to 240).",
-                4},
-        Refused{"moment_beyond_the_end",
-                {"mo", 50, 240.5},
-                kInvalidMomentLocation,
-                "moment position 240.5 lies outside the beam (0 to 240).",
-                4},
-        Refused{"distributed_start_at_the_end",
-                {"di", 240, 240, 1, 1},
-                kInvalidStartingLocation,
-                "distributed load start 240 does not lie from 0 to before the beam's end (240).",
-                4},
-        Refused{"distributed_end_before_start",
-                {"di", 100, 50, 1, 1},
-                kInvalidEndingLocation,
-                "distributed load end 50 does not lie beyond its start (100) and at most at the "
-                "beam's end (240).",
-                4},
-        Refused{"distributed_end_beyond_the_beam",
-                {"di", 0, 250, 1, 1},
-                kInvalidEndingLocation,
-                "distributed load end 250 does not lie beyond its start (0) and at most at the "
-                "beam's end (240).",
-                4},
-        Refused{"support_beyond_the_end",
-                {"su", 300, 0},
-                kInvalidSupportLocation,
-                "support position 300 lies outside the beam (0 to 240).",
-                6},
-        Refused{"cantilever_mid_span",
-                {"su", 60, 0, 0, 0, "cant"},
-                kCantileverAtEndsOnly,
-                "cantilever support at 60 is not at an end of the beam (0 or 240).",
-                6},
-        Refused{"support_on_a_support",
-                {"su", 120, 0},
-                kSupportExists,
-                "another support already stands at 120.",
-                6},
-        Refused{"unknown_support_kind",
-                {"su", 60, 0, 0, 0, "fixed"},
-                kUnknownSupportKind,
-                "support kind \"fixed\" is neither \"simp\" nor \"cant\".",
-                6}),
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Rules, RefusedGeometry, ::testing::Values(
+    Refused{"load_beyond_the_end", {"pt", 100, 300}, kInvalidLoadLocation,
+            "point load position 300 lies outside the beam (0 to 240).", 4},
+    Refused{"load_before_the_start", {"pt", 100, -0.01}, kInvalidLoadLocation,
+            "point load position -0.01 lies outside the beam (0 to 240).", 4},
+    Refused{"moment_beyond_the_end", {"mo", 50, 240.5}, kInvalidMomentLocation,
+            "moment position 240.5 lies outside the beam (0 to 240).", 4},
+    Refused{"distributed_start_at_the_end", {"di", 240, 240, 1, 1}, kInvalidStartingLocation,
+            "distributed load start 240 does not lie from 0 to before the beam's end (240).", 4},
+    Refused{"distributed_end_before_start", {"di", 100, 50, 1, 1}, kInvalidEndingLocation,
+            "distributed load end 50 does not lie beyond its start (100) and at most at the "
+            "beam's end (240).", 4},
+    Refused{"distributed_end_beyond_the_beam", {"di", 0, 250, 1, 1}, kInvalidEndingLocation,
+            "distributed load end 250 does not lie beyond its start (0) and at most at the "
+            "beam's end (240).", 4},
+    Refused{"support_beyond_the_end", {"su", 300}, kInvalidSupportLocation,
+            "support position 300 lies outside the beam (0 to 240).", 6},
+    Refused{"cantilever_mid_span", {"su", 60, 0, 0, 0, "cant"}, kCantileverAtEndsOnly,
+            "cantilever support at 60 is not at an end of the beam (0 or 240).", 6},
+    Refused{"support_on_a_support", {"su", 120}, kSupportExists,
+            "another support already stands at 120.", 6},
+    Refused{"unknown_support_kind", {"su", 60, 0, 0, 0, "fixed"}, kUnknownSupportKind,
+            "support kind \"fixed\" is neither \"simp\" nor \"cant\".", 6}),
     [](const auto& info) { return info.param.name; });
+// clang-format on
 
 }  // namespace
 }  // namespace flexley

@@ -236,30 +236,23 @@ TEST(LoadReader, BringsTheResolutionToTheNearestWholeAllowedValueWithANote) {
     const struct {
         const char* in_file;
         float resolution;
-        const char* note;  // empty: no warning
-    } rows[] = {
-        {"5.5", 10,
-         "The file's resolution of 5.5 was changed to 10, the nearest whole number from "
-         "10 to 200,000."},
-        {"-3", 10,
-         "The file's resolution of -3 was changed to 10, the nearest whole number from "
-         "10 to 200,000."},
-        {"250000", 200000,
-         "The file's resolution of 250000 was changed to 200000, the nearest "
-         "whole number from 10 to 200,000."},
-        {"5000.4", 5000,
-         "The file's resolution of 5000.4 was changed to 5000, the nearest whole "
-         "number from 10 to 200,000."},
-        {"200000", 200000, ""},
-    };
+        bool noted;
+    } rows[] = {{"5.5", 10, true},
+                {"-3", 10, true},
+                {"250000", 200000, true},
+                {"5000.4", 5000, true},
+                {"200000", 200000, false}};
     for (const auto& row : rows) {
         BeamModel model;
         model.results_valid = model.results_partial = true;
         const LoadResult result = read_load_configuration_text(
             edited(",10000,", "," + std::string(row.in_file) + ","), model);
+        const std::string note = "The file's resolution of " + std::string(row.in_file) +
+                                 " was changed to " + std::to_string(int(row.resolution)) +
+                                 ", the nearest whole number from 10 to 200,000.";
         EXPECT_TRUE(result.status.ok()) << row.in_file;
-        EXPECT_EQ(result.status.is_warning(), *row.note != '\0') << row.in_file;
-        EXPECT_EQ(result.status.message(), row.note) << row.in_file;
+        EXPECT_EQ(result.status.is_warning(), row.noted) << row.in_file;
+        EXPECT_EQ(result.status.message(), row.noted ? note : "") << row.in_file;
         EXPECT_EQ(model.resolution, row.resolution) << row.in_file;
         EXPECT_EQ(result.label_groups.size(), 3u) << row.in_file;
         EXPECT_FALSE(model.results_valid || model.results_partial) << row.in_file;
