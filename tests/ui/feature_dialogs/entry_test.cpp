@@ -21,10 +21,6 @@ struct EntryRow {
     const char* shown = "";
 };
 
-void PrintTo(const EntryRow& row, std::ostream* out) {
-    *out << row.name;
-}
-
 const char* add_command(const std::string& dialog) {
     if (dialog == "load_info") return "addpointload";
     if (dialog == "distload_info") return "adddistload";
@@ -122,10 +118,6 @@ struct RefusalRow {
     const char* actions;
     const char* message;
 };
-
-void PrintTo(const RefusalRow& row, std::ostream* out) {
-    *out << row.name;
-}
 
 class RefusalTest : public FeatureDialogFixture,
                     public ::testing::WithParamInterface<RefusalRow> {};
