@@ -1,4 +1,5 @@
-// Editing features: the drawing scale after an edit, refusals that change nothing, moving supports.
+// Editing and removing features: the drawing scale afterwards, refusals that change nothing,
+// moving supports.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -113,6 +114,40 @@ TEST(EditFeature, RefusesWhatIsNotALiveFeatureOfItsKindOrBreaksTheRules) {
                            before.su_loc, before.loc_unit, before.pt_maxmag, before.pt_scalemag))
             << row.name;
     }
+}
+
+TEST(RemoveFeature, NeutralisesInPlaceAndRescansTheLargest) {
+    BeamModel model = edit_beam();
+    ASSERT_TRUE(remove_feature(model, 1).ok());  // not the largest: the scale stays
+    EXPECT_EQ(model.pt_mag[1], 0);
+    EXPECT_EQ(model.pt_loc[1], 1);
+    EXPECT_EQ(model.pt_maxmag, 30);
+    EXPECT_EQ(model.pt_scalemag, 10);
+
+    ASSERT_TRUE(remove_feature(model, 2).ok());  // the largest: rescan, scale value reset
+    EXPECT_EQ(model.pt_maxmag, 20);
+    EXPECT_EQ(model.pt_scalemag, 0);
+
+    ASSERT_TRUE(remove_feature(model, 4).ok());
+    EXPECT_EQ(model.di_mag_start[1], 0);
+    EXPECT_EQ(model.di_mag_end[1], 0);
+    EXPECT_EQ(model.di_maxmag, 6);
+
+    ASSERT_TRUE(remove_feature(model, 6).ok());
+    EXPECT_EQ(model.mo_maxmag, 3);
+    ASSERT_TRUE(remove_feature(model, 7).ok());  // the last moment
+    EXPECT_EQ(model.mo_maxmag, 0);
+
+    ASSERT_TRUE(remove_feature(model, 9).ok());
+    EXPECT_EQ(model.su_loc[2], -1);
+    EXPECT_EQ(model.su_type[2], "cant");
+    EXPECT_TRUE(is_removed(model, {FeatureKind::support, 2}));
+
+    EXPECT_EQ(remove_feature(model, 11).message(), "Invalid feature number.");
+    EXPECT_EQ(model.pt_count, 3);
+    EXPECT_EQ(model.feature_count, 10);
+    ASSERT_TRUE(add_moment(model, 1, 1, "in", "pi").ok());
+    EXPECT_EQ(model.feature_list[11], "mo3");  // feature numbers are never reused
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Feature list upkeep: numbering, scale tracking, capacities, removal and clearing.
+// Feature list upkeep: numbering, scale tracking, capacities and clearing.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -131,47 +131,6 @@ TEST(AddFeature, AcceptsTheEdgesOfTheRulesAndRefusesNullMagnitudes) {
         EXPECT_EQ(added.message(), row.refusal) << row.name;
         EXPECT_EQ(model.feature_count, *row.refusal ? 2 : 3) << row.name;
     }
-}
-
-TEST(RemoveFeature, NeutralisesInPlaceAndRescansTheLargest) {
-    BeamModel model;
-    model.beam_length = 10;
-    ASSERT_TRUE(add_point_load(model, 10, 1, "in", "lb").ok());
-    ASSERT_TRUE(add_point_load(model, -30, 2, "in", "lb").ok());
-    ASSERT_TRUE(add_point_load(model, 20, 3, "in", "lb").ok());
-    ASSERT_TRUE(add_support(model, 0, "cant", "", "lb").ok());
-    ASSERT_TRUE(add_distributed_load(model, 0, 5, 4, -9, "in", "pi").ok());
-    ASSERT_TRUE(add_distributed_load(model, 0, 5, 6, 1, "in", "pi").ok());
-    ASSERT_TRUE(add_moment(model, 7, 1, "in", "pi").ok());
-
-    ASSERT_TRUE(remove_feature(model, 1).ok());  // not the largest: the scale stays
-    EXPECT_EQ(model.pt_mag[1], 0);
-    EXPECT_EQ(model.pt_loc[1], 1);
-    EXPECT_EQ(model.pt_maxmag, 30);
-    EXPECT_EQ(model.pt_scalemag, 10);
-
-    ASSERT_TRUE(remove_feature(model, 2).ok());  // the largest: rescan, scale value reset
-    EXPECT_EQ(model.pt_maxmag, 20);
-    EXPECT_EQ(model.pt_scalemag, 0);
-
-    ASSERT_TRUE(remove_feature(model, 5).ok());
-    EXPECT_EQ(model.di_mag_start[1], 0);
-    EXPECT_EQ(model.di_mag_end[1], 0);
-    EXPECT_EQ(model.di_maxmag, 6);
-
-    ASSERT_TRUE(remove_feature(model, 7).ok());  // the only moment
-    EXPECT_EQ(model.mo_maxmag, 0);
-
-    ASSERT_TRUE(remove_feature(model, 4).ok());
-    EXPECT_EQ(model.su_loc[1], -1);
-    EXPECT_EQ(model.su_type[1], "cant");
-    EXPECT_TRUE(is_removed(model, {FeatureKind::support, 1}));
-
-    EXPECT_EQ(remove_feature(model, 8).message(), "Invalid feature number.");
-    EXPECT_EQ(model.pt_count, 3);
-    EXPECT_EQ(model.feature_count, 7);
-    ASSERT_TRUE(add_moment(model, 1, 1, "in", "pi").ok());
-    EXPECT_EQ(model.feature_list[8], "mo2");  // feature numbers are never reused
 }
 
 TEST(ClearBeam, EmptiesTablesButKeepsLengthUnitsAndPrecision) {
