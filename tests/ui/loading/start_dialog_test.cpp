@@ -10,44 +10,38 @@
 namespace flexley::testing {
 namespace {
 
-struct LengthRow {
-    const char* name;
-    bool metric;
-    bool inches;
-    const char* typed;  // nullptr: the box as it opens
-    double beam_length;
-    bool positions_in_inches;
-};
-
-class StartDialogLengthTest : public ::testing::TestWithParam<LengthRow> {};
-
-TEST_P(StartDialogLengthTest, ContinueStoresUnitsAndLength) {
-    const LengthRow& row = GetParam();
-    BeamModel model;
-    ScriptedPrompts prompts;
-    StartDialog dialog(model, Preferences{}, prompts, StartMode::program_start);
-    if (row.metric) child<QRadioButton>(dialog, "Met").click();
-    if (row.inches) child<QRadioButton>(dialog, "inch").click();
-    if (row.typed) {
-        child<QLineEdit>(dialog, "Length").clear();
-        QTest::keyClicks(&child<QLineEdit>(dialog, "Length"), row.typed);
+TEST(StartDialog, ContinueStoresUnitsAndLength) {
+    // An English length of whole feet puts positions in feet, any other in inches.
+    const struct {
+        bool metric;
+        bool inches;
+        const char* typed;  // nullptr: the box as it opens
+        double beam_length;
+        bool positions_in_inches;
+    } rows[] = {
+        {false, false, nullptr, 1200.0, false}, {false, true, "40", 40.0, true},
+        {false, true, "48", 48.0, false},       {false, false, "3.5", 42.0, true},
+        {true, false, "3", 3.0, true},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.typed ? row.typed : "untouched");
+        BeamModel model;
+        ScriptedPrompts prompts;
+        StartDialog dialog(model, Preferences{}, prompts, StartMode::program_start);
+        if (row.metric) child<QRadioButton>(dialog, "Met").click();
+        if (row.inches) child<QRadioButton>(dialog, "inch").click();
+        if (row.typed) {
+            child<QLineEdit>(dialog, "Length").clear();
+            QTest::keyClicks(&child<QLineEdit>(dialog, "Length"), row.typed);
+        }
+        ASSERT_TRUE(dialog.confirm());
+        EXPECT_EQ(model.metric_units, row.metric);
+        EXPECT_DOUBLE_EQ(model.beam_length, row.beam_length);
+        EXPECT_EQ(model.positions_in_inches, row.positions_in_inches);
+        EXPECT_EQ(model.sig_figs, 3);
+        EXPECT_TRUE(prompts.shown().empty());
     }
-    ASSERT_TRUE(dialog.confirm());
-    EXPECT_EQ(model.metric_units, row.metric);
-    EXPECT_DOUBLE_EQ(model.beam_length, row.beam_length);
-    EXPECT_EQ(model.positions_in_inches, row.positions_in_inches);
-    EXPECT_EQ(model.sig_figs, 3);
-    EXPECT_TRUE(prompts.shown().empty());
 }
-
-INSTANTIATE_TEST_SUITE_P(Rows, StartDialogLengthTest,
-                         ::testing::Values(LengthRow{"untouched_100_ft", false, false, nullptr,
-                                                     1200.0, false},
-                                           LengthRow{"inches_40", false, true, "40", 40.0, true},
-                                           LengthRow{"inches_48", false, true, "48", 48.0, false},
-                                           LengthRow{"feet_typed", false, false, "3.5", 42.0, true},
-                                           LengthRow{"metric_3", true, false, "3", 3.0, true}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST(StartDialog, RefusesALengthThatIsNotPositiveYetRetrieveStillAsksForAFile) {
     for (const char* typed : {"0", "-2", "abc", "", "1e999"}) {
@@ -67,7 +61,9 @@ TEST(StartDialog, RefusesALengthThatIsNotPositiveYetRetrieveStillAsksForAFile) {
     }
 }
 
-TEST(StartDialog, PreferredMetricSelectsMetricAtProgramStartOnly) {
+// Reopened by Reinitialize on an English beam, the dialog shows the length in the units it was
+// entered in, whatever the preferences say, and Continue keeps it.
+TEST(StartDialog, PreferredMetricAppliesAtProgramStartOnly) {
     const Preferences metric{"", "", "metric", false};
     BeamModel model;
     ScriptedPrompts prompts;
@@ -78,25 +74,17 @@ TEST(StartDialog, PreferredMetricSelectsMetricAtProgramStartOnly) {
     EXPECT_FALSE(child<QGroupBox>(first, "engframe").isVisible());
     EXPECT_TRUE(model.metric_units);
 
-    // Reopened on an English beam, the length keeps the units it was entered in.
     BeamModel english;
     english.beam_length = 240.0;
+    english.sig_figs = 5;
     StartDialog again(english, metric, prompts, StartMode::reinitialize);
     again.show();
     EXPECT_TRUE(child<QRadioButton>(again, "Eng").isChecked());
     EXPECT_FALSE(child<QLabel>(again, "meter").isVisible());
-}
-
-TEST(StartDialog, ReinitializeShowsTheLengthAndContinueKeepsIt) {
-    BeamModel model;
-    model.beam_length = 240.0;
-    model.sig_figs = 5;
-    ScriptedPrompts prompts;
-    StartDialog dialog(model, Preferences{}, prompts, StartMode::reinitialize);
-    EXPECT_EQ(child<QLineEdit>(dialog, "Length").text(), "20");
-    ASSERT_TRUE(dialog.confirm());
-    EXPECT_DOUBLE_EQ(model.beam_length, 240.0);
-    EXPECT_EQ(model.sig_figs, 3);
+    EXPECT_EQ(child<QLineEdit>(again, "Length").text(), "20");
+    ASSERT_TRUE(again.confirm());
+    EXPECT_DOUBLE_EQ(english.beam_length, 240.0);
+    EXPECT_EQ(english.sig_figs, 3);
 }
 
 TEST(StartDialog, EnterInLengthIsContinueAndTabFollowsTheLayout) {
