@@ -28,39 +28,39 @@ TEST(ScreenGeometry, RoundsEveryMeasureHalvesToEven) {
     }
 }
 
-TEST(BeamPicture, LargestPointLoadSetsTheScaleAndNewMaximumRestacksOlderLabels) {
-    Screen screen;
-    ASSERT_TRUE(add_point_load(screen.model, 500, 120, "in", "lb").ok());
-    screen.redraw();
-    ASSERT_EQ(shafts(screen.picture).size(), 1u);
-    EXPECT_DOUBLE_EQ(shafts(screen.picture)[0].length, kPlotHeight);
-    EXPECT_DOUBLE_EQ(shafts(screen.picture)[0].base, kTop);
-    EXPECT_EQ(screen.tops(1), (std::vector{4000, 4200, 4400, 4600}));
-    EXPECT_EQ(screen.label(1, kFeatureSlot).left, screen_x(120) - 500);
+// The largest load's arrow spans the plot height; a load twice as large halves it and its labels
+// move to their restacked tops. Upward loads stand below the beam.
+TEST(BeamPicture, LargestPointLoadSetsTheScaleAndANewMaximumRestacksOlderLabels) {
+    const struct {
+        double magnitude;
+        double base;
+        std::vector<int> created_tops, restacked_tops;
+    } rows[] = {
+        {500, kTop, {4000, 4200, 4400, 4600}, {5600, 5800, 6000, 6200}},
+        {-500, kBottom, {12025, 12225, 12425, 12625}, {10450, 10650, 10850, 11050}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.magnitude);
+        const double direction = row.magnitude > 0 ? 1 : -1;
+        Screen screen;
+        ASSERT_TRUE(add_point_load(screen.model, row.magnitude, 120, "in", "lb").ok());
+        screen.redraw();
+        ASSERT_EQ(shafts(screen.picture).size(), 1u);
+        EXPECT_DOUBLE_EQ(shafts(screen.picture)[0].length, direction * kPlotHeight);
+        EXPECT_DOUBLE_EQ(shafts(screen.picture)[0].base, row.base);
+        EXPECT_EQ(screen.tops(1), row.created_tops);
+        EXPECT_EQ(screen.label(1, kFeatureSlot).left, screen_x(120) - 500);
 
-    ASSERT_TRUE(add_point_load(screen.model, 1000, 60, "in", "lb").ok());
-    screen.redraw();
-    const auto arrows = shafts(screen.picture);
-    ASSERT_EQ(arrows.size(), 2u);
-    EXPECT_DOUBLE_EQ(arrows[0].length, kPlotHeight / 2);
-    EXPECT_DOUBLE_EQ(arrows[1].length, kPlotHeight);
-    EXPECT_EQ(screen.tops(1), (std::vector{5600, 5800, 6000, 6200}));
-    EXPECT_EQ(screen.tops(2), (std::vector{4000, 4200, 4400, 4600}));
-    EXPECT_EQ(screen.model.pt_drawn, 2);
-}
-
-TEST(BeamPicture, UpwardLoadStandsBelowTheBeamCreatedThenRestacked) {
-    Screen screen;
-    ASSERT_TRUE(add_point_load(screen.model, -500, 120, "in", "lb").ok());
-    screen.redraw();
-    const auto arrow = shafts(screen.picture).at(0);
-    EXPECT_DOUBLE_EQ(arrow.length, -kPlotHeight);
-    EXPECT_DOUBLE_EQ(arrow.base, kBottom);
-    EXPECT_EQ(screen.tops(1), (std::vector{12025, 12225, 12425, 12625}));
-
-    ASSERT_TRUE(add_point_load(screen.model, 1000, 60, "in", "lb").ok());
-    screen.redraw();
-    EXPECT_EQ(screen.tops(1), (std::vector{10450, 10650, 10850, 11050}));
+        ASSERT_TRUE(add_point_load(screen.model, 1000, 60, "in", "lb").ok());
+        screen.redraw();
+        const auto arrows = shafts(screen.picture);
+        ASSERT_EQ(arrows.size(), 2u);
+        EXPECT_DOUBLE_EQ(arrows[0].length, direction * kPlotHeight / 2);
+        EXPECT_DOUBLE_EQ(arrows[1].length, kPlotHeight);
+        EXPECT_EQ(screen.tops(1), row.restacked_tops);
+        EXPECT_EQ(screen.tops(2), (std::vector{4000, 4200, 4400, 4600}));
+        EXPECT_EQ(screen.model.pt_drawn, 2);
+    }
 }
 
 TEST(BeamPicture, TriangularLoadDrawsQuarterPointArrowsUnderASlopingTopLine) {

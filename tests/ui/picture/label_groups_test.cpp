@@ -1,7 +1,6 @@
 // Label groups: reaction texts on the supports, relabelling after unit and precision changes.
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -31,61 +30,51 @@ void add(BeamModel& model, const Feature& feature) {
     ASSERT_TRUE(status.ok()) << status.message();
 }
 
-struct ReactionRow {
-    const char* name;
-    std::vector<Feature> features;
-    std::vector<std::pair<int, std::string>> reactions;  // feature number, its reaction label
-};
+// With no, one and two fixed supports: a force alone, or a force and a moment.
+TEST(ReactionTexts, StandOnTheFourthLabelOfEachSupportUntilResultsGoStale) {
+    const struct {
+        std::vector<Feature> features;
+        std::vector<std::pair<int, std::string>> reactions;  // feature number, its label
+    } rows[] = {
+        {{{"simp", 0}, {"pt", 120, 1000}, {"simp", 240}}, {{1, "500 lb."}, {3, "500 lb."}}},
+        {{{"cant", 0}, {"pt", 120, 1000}}, {{1, "1000 lb., 120000 lb.-in."}}},
+        {{{"cant", 0}, {"pt", 120, 1000}, {"cant", 240}},
+         {{1, "500 lb., 30000 lb.-in."}, {3, "500 lb., -30000 lb.-in."}}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.reactions.front().second);
+        Screen screen;
+        screen.model.moment_of_inertia = 100;
+        screen.model.elastic_modulus = 29e6f;
+        screen.model.fibre_distance = 5;
+        for (const auto& feature : row.features) {
+            add(screen.model, feature);
+            screen.redraw();
+        }
+        ASSERT_TRUE(run_calculation(screen.model, [] { return false; }).ok());
+        screen.labels.show_reaction_texts(show_reactions(screen.model));
 
-void PrintTo(const ReactionRow& row, std::ostream* out) {
-    *out << row.name;
+        for (const auto& [number, text] : row.reactions) {
+            const Label& label = screen.label(number, kPositionSlot);
+            EXPECT_EQ(label.caption, text) << number;
+            EXPECT_EQ(label.colour, drawing::kRedBrown);
+            EXPECT_TRUE(label.bold);
+            // Widened about the support so the text is never clipped.
+            EXPECT_GE(label.width, static_cast<int>(text.size()) * 100);
+            EXPECT_EQ(label.left + label.width / 2,
+                      screen.label(number, kFeatureSlot).left + 500);
+        }
+        // The load's own position label is no reaction label.
+        EXPECT_EQ(screen.label(2, kPositionSlot).caption, "x=120 in.");
+
+        screen.labels.blank_reaction_texts();
+        for (const auto& reaction : row.reactions) {
+            const Label& label = screen.label(reaction.first, kPositionSlot);
+            EXPECT_EQ(label.caption, "");
+            EXPECT_EQ(label.width, 1300);
+        }
+    }
 }
-
-class ReactionTexts : public ::testing::TestWithParam<ReactionRow> {};
-
-TEST_P(ReactionTexts, StandOnTheFourthLabelOfEachSupportUntilResultsGoStale) {
-    Screen screen;
-    screen.model.moment_of_inertia = 100;
-    screen.model.elastic_modulus = 29e6f;
-    screen.model.fibre_distance = 5;
-    for (const auto& feature : GetParam().features) {
-        add(screen.model, feature);
-        screen.redraw();
-    }
-    ASSERT_TRUE(run_calculation(screen.model, [] { return false; }).ok());
-    screen.labels.show_reaction_texts(show_reactions(screen.model));
-
-    for (const auto& [number, text] : GetParam().reactions) {
-        const Label& label = screen.label(number, kPositionSlot);
-        EXPECT_EQ(label.caption, text) << number;
-        EXPECT_EQ(label.colour, drawing::kRedBrown);
-        EXPECT_TRUE(label.bold);
-        // Widened about the support so the text is never clipped.
-        EXPECT_GE(label.width, static_cast<int>(text.size()) * 100);
-        EXPECT_EQ(label.left + label.width / 2, screen.label(number, kFeatureSlot).left + 500);
-    }
-    // The load's own position label is no reaction label.
-    EXPECT_EQ(screen.label(2, kPositionSlot).caption, "x=120 in.");
-
-    screen.labels.blank_reaction_texts();
-    for (const auto& reaction : GetParam().reactions) {
-        const Label& label = screen.label(reaction.first, kPositionSlot);
-        EXPECT_EQ(label.caption, "");
-        EXPECT_EQ(label.width, 1300);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    FixedSupports, ReactionTexts,
-    ::testing::Values(
-        ReactionRow{"None",
-                    {{"simp", 0}, {"pt", 120, 1000}, {"simp", 240}},
-                    {{1, "500 lb."}, {3, "500 lb."}}},
-        ReactionRow{"One", {{"cant", 0}, {"pt", 120, 1000}}, {{1, "1000 lb., 120000 lb.-in."}}},
-        ReactionRow{"Two",
-                    {{"cant", 0}, {"pt", 120, 1000}, {"cant", 240}},
-                    {{1, "500 lb., 30000 lb.-in."}, {3, "500 lb., -30000 lb.-in."}}}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(Relabel, ValueAndPositionLabelsFollowUnitSwitchesAndSignificantFigures) {
     Screen screen;
