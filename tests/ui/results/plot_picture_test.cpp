@@ -30,20 +30,14 @@ BeamModel beam(bool metric, double length, int resolution = 10) {
 // The grid labels, from the top grid line down (value labels) or from the left (position
 // labels): the picture gives each step its value label, then its position label, and the title
 // last.
-std::vector<std::string> labels(const drawing::Picture& picture, bool positions) {
+enum class Labels { values, positions };
+
+std::vector<std::string> labels(const drawing::Picture& picture, Labels which) {
     std::vector<std::string> found;
     const auto texts = drawing::shapes_of<drawing::Text>(picture);
-    for (std::size_t i = positions ? 1 : 0; i + 1 < texts.size(); i += 2)
+    for (std::size_t i = which == Labels::positions ? 1 : 0; i + 1 < texts.size(); i += 2)
         found.push_back(texts[i].text);
     return found;
-}
-
-std::vector<std::string> value_labels(const drawing::Picture& picture) {
-    return labels(picture, false);
-}
-
-std::vector<std::string> position_labels(const drawing::Picture& picture) {
-    return labels(picture, true);
 }
 
 TEST(PlotPicture, FramesGridLinesAndTitlesStandWhereTheWorkAreaPutsThem) {
@@ -128,7 +122,7 @@ TEST(PlotPicture, ValueLabelsFollowTheMaximumInOneUnit) {
         SCOPED_TRACE(row.labels.front());
         BeamModel model = beam(row.metric, 120);
         model.max_moment = model.max_stress = model.max_deflection = row.maximum;
-        const auto shown = value_labels(plot_picture(model, row.kind, kGeometry, false));
+        const auto shown = labels(plot_picture(model, row.kind, kGeometry, false), Labels::values);
         ASSERT_EQ(shown.size(), 7u);
         EXPECT_EQ((std::vector<std::string>{shown[0], shown[1], shown[3]}), row.labels);
         EXPECT_EQ(shown[6], row.maximum == 0 ? row.labels[0] : "-" + row.labels[0]);
@@ -136,15 +130,18 @@ TEST(PlotPicture, ValueLabelsFollowTheMaximumInOneUnit) {
 }
 
 TEST(PlotPicture, PositionLabelsReadSixthsOfTheBeamInItsUnit) {
+    const auto shown = [](const BeamModel& model, PlotKind kind) {
+        return labels(plot_picture(model, kind, kGeometry, false), Labels::positions);
+    };
     BeamModel inches = beam(false, 40);
     inches.positions_in_inches = true;
-    EXPECT_EQ(position_labels(plot_picture(inches, PlotKind::stress, kGeometry, false)),
+    EXPECT_EQ(shown(inches, PlotKind::stress),
               (std::vector<std::string>{"0 in.", "6.667 in.", "13.33 in.", "20 in.", "26.67 in.",
                                         "33.33 in.", "40 in."}));
-    EXPECT_EQ(position_labels(plot_picture(beam(false, 120), PlotKind::moment, kGeometry, false)),
+    EXPECT_EQ(shown(beam(false, 120), PlotKind::moment),
               (std::vector<std::string>{"0 ft.", "1.667 ft.", "3.333 ft.", "5 ft.", "6.667 ft.",
                                         "8.333 ft.", "10 ft."}));
-    EXPECT_EQ(position_labels(plot_picture(beam(true, 6), PlotKind::moment, kGeometry, false)),
+    EXPECT_EQ(shown(beam(true, 6), PlotKind::moment),
               (std::vector<std::string>{"0 m", "1 m", "2 m", "3 m", "4 m", "5 m", "6 m"}));
 }
 
@@ -162,8 +159,9 @@ TEST(PlotCurve, RunsThroughEveryCalculatedPointAndAgreesWithTheGridLabels) {
     // The stored -|max| is the largest deflection upwards: on the top grid line, labelled
     // +|max| / EI.
     EXPECT_DOUBLE_EQ(curve.point(3).y, 12000 - 1600);
-    EXPECT_EQ(value_labels(plot_picture(model, PlotKind::deflection, kGeometry, false)).front(),
-              "400 mm");
+    EXPECT_EQ(
+        labels(plot_picture(model, PlotKind::deflection, kGeometry, false), Labels::values).front(),
+        "400 mm");
     EXPECT_DOUBLE_EQ(curve.point(0).y, 12000 - 800);
     EXPECT_DOUBLE_EQ(curve.point(10).y, 12000 + 800);
 
