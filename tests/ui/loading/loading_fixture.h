@@ -7,11 +7,16 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <fstream>
 #include <memory>
+#include <span>
 #include <stdexcept>
+#include <utility>
 
 #include "files/preferences.h"
 #include "model/beam_model.h"
@@ -31,6 +36,37 @@ T& child(const QObject& parent, const char* name) {
         throw std::runtime_error(name);
     }
     return *found;
+}
+
+struct MenuRow {
+    const char* menu;
+    const char* name;
+    const char* caption;
+    const char* shortcut;
+    bool enabled;  // on an English beam
+};
+
+// The menu bar reads `titles`, and every row's item stands in its menu as the row describes it.
+inline void expect_menus(const QMainWindow& window, const QStringList& titles,
+                         std::span<const MenuRow> rows) {
+    QStringList shown;
+    for (QAction* action : window.menuBar()->actions())
+        shown << action->text();
+    EXPECT_EQ(shown, titles);
+    for (const MenuRow& row : rows) {
+        SCOPED_TRACE(row.name);
+        const QAction& action = child<QAction>(window, row.name);
+        EXPECT_TRUE(child<QMenu>(window, row.menu).actions().contains(&action));
+        EXPECT_EQ(action.text(), row.caption);
+        EXPECT_EQ(action.shortcut().toString(), row.shortcut);
+        EXPECT_EQ(action.isEnabled(), row.enabled);
+    }
+}
+
+// Whether "Convert to Metric" and "Convert to English" are enabled, in that order.
+inline std::pair<bool, bool> unit_commands_enabled(const QWidget& window) {
+    return {child<QAction>(window, "metricunits").isEnabled(),
+            child<QAction>(window, "englishunits").isEnabled()};
 }
 
 class LoadingFixture : public ::testing::Test {

@@ -1,19 +1,8 @@
 // The Loading Screen's menus against the design's table, and the unit commands' enabling.
-#include <QMenu>
-#include <QMenuBar>
-
 #include "ui/loading/loading_fixture.h"
 
 namespace flexley::testing {
 namespace {
-
-struct MenuRow {
-    const char* menu;
-    const char* name;
-    const char* caption;
-    const char* shortcut;
-    bool enabled;  // in English units
-};
 
 // Every item of the design's menu table, in menu order.
 const MenuRow kMenuTable[] = {
@@ -46,37 +35,21 @@ const MenuRow kMenuTable[] = {
 using MenuTest = LoadingFixture;
 
 TEST_F(MenuTest, EveryItemOfTheTableStandsInItsMenu) {
-    const QStringList menus = {"&File",    "F&eature", "&Beam", "&Calculate",
-                               "&Display", "&Units",   "&Help"};
-    QStringList shown;
-    for (QAction* action : window().menuBar()->actions())
-        shown << action->text();
-    EXPECT_EQ(shown, menus);
+    expect_menus(window(),
+                 {"&File", "F&eature", "&Beam", "&Calculate", "&Display", "&Units", "&Help"},
+                 kMenuTable);
     EXPECT_EQ(child<QMenu>(window(), "featmenu").actions().front()->text(), "&Add Feature");
-
-    for (const MenuRow& row : kMenuTable) {
-        SCOPED_TRACE(row.name);
-        const QAction& action = child<QAction>(window(), row.name);
-        EXPECT_TRUE(child<QMenu>(window(), row.menu).actions().contains(&action));
-        EXPECT_EQ(action.text(), row.caption);
-        EXPECT_EQ(action.shortcut().toString(), row.shortcut);
-        EXPECT_EQ(action.isEnabled(), row.enabled);
-    }
 }
 
 TEST_F(MenuTest, ExactlyOneUnitCommandIsEnabledAfterEachConversion) {
     started();
-    const auto enabled = [this] {
-        return std::pair(child<QAction>(window(), "metricunits").isEnabled(),
-                         child<QAction>(window(), "englishunits").isEnabled());
-    };
-    EXPECT_EQ(enabled(), std::pair(true, false));
+    EXPECT_EQ(unit_commands_enabled(window()), std::pair(true, false));
     trigger("metricunits");
     EXPECT_TRUE(model.metric_units);
-    EXPECT_EQ(enabled(), std::pair(false, true));
+    EXPECT_EQ(unit_commands_enabled(window()), std::pair(false, true));
     trigger("englishunits");
     EXPECT_FALSE(model.metric_units);
-    EXPECT_EQ(enabled(), std::pair(true, false));
+    EXPECT_EQ(unit_commands_enabled(window()), std::pair(true, false));
 }
 
 }  // namespace

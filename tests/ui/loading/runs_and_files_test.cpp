@@ -1,8 +1,8 @@
 // Calculations and reaction texts, the file commands, closing, and the Overview's typical use.
-#include <QTreeWidget>
-#include <filesystem>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QTreeWidget>
+#include <filesystem>
 
 #include "files/load_file.h"
 #include "model/beam_settings.h"

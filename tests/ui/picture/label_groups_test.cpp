@@ -61,8 +61,7 @@ TEST(ReactionTexts, StandOnTheFourthLabelOfEachSupportUntilResultsGoStale) {
             EXPECT_TRUE(label.bold);
             // Widened about the support so the text is never clipped.
             EXPECT_GE(label.width, static_cast<int>(text.size()) * 100);
-            EXPECT_EQ(label.left + label.width / 2,
-                      screen.label(number, kFeatureSlot).left + 500);
+            EXPECT_EQ(label.left + label.width / 2, screen.label(number, kFeatureSlot).left + 500);
         }
         // The load's own position label is no reaction label.
         EXPECT_EQ(screen.label(2, kPositionSlot).caption, "x=120 in.");

@@ -1,8 +1,6 @@
 // The Calculations Screen: its menus and title, the unit and precision commands, live results
 // while the beam changes, and returning to the Loading Screen.
 #include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
 #include <QStackedWidget>
 
 #include "model/beam_settings.h"
@@ -13,14 +11,6 @@
 
 namespace flexley::testing {
 namespace {
-
-struct MenuRow {
-    const char* menu;
-    const char* name;
-    const char* caption;
-    const char* shortcut;
-    bool enabled;  // on an English beam
-};
 
 const MenuRow kMenuTable[] = {
     {"filemenu", "showloading", "Return to &Loading", "Alt+Backspace", true},
@@ -49,18 +39,7 @@ TEST_F(ResultsWindowTest, OpensMaximizedWithTheDesignsMenusAfterACalculation) {
     EXPECT_EQ(shown.windowTitle(), "Flexley: Calculations Screen: simply-supported-point-load.lod");
     EXPECT_TRUE(showing_plots(shown));
 
-    QStringList menus;
-    for (QAction* action : shown.menuBar()->actions())
-        menus << action->text();
-    EXPECT_EQ(menus, (QStringList{"&File", "&Calculate", "&Display", "&Units", "&Help"}));
-    for (const MenuRow& row : kMenuTable) {
-        SCOPED_TRACE(row.name);
-        const QAction& action = child<QAction>(shown, row.name);
-        EXPECT_TRUE(child<QMenu>(shown, row.menu).actions().contains(&action));
-        EXPECT_EQ(action.text(), row.caption);
-        EXPECT_EQ(action.shortcut().toString(), row.shortcut);
-        EXPECT_EQ(action.isEnabled(), row.enabled);
-    }
+    expect_menus(shown, {"&File", "&Calculate", "&Display", "&Units", "&Help"}, kMenuTable);
 }
 
 TEST_F(ResultsWindowTest, ABeamNeverSavedShowsTheTitleAloneAndReturningUnloadsTheWindow) {
@@ -80,23 +59,19 @@ TEST_F(ResultsWindowTest, ABeamNeverSavedShowsTheTitleAloneAndReturningUnloadsTh
 
 TEST_F(ResultsWindowTest, ConvertingAndBackKeepsThePhysicalResultsAndOneUnitCommand) {
     ResultsWindow& shown = calculated("propped-cantilever-point-load.lod");
-    const auto enabled = [&] {
-        return std::pair(child<QAction>(shown, "metricunits").isEnabled(),
-                         child<QAction>(shown, "englishunits").isEnabled());
-    };
     const MaximumValueTexts english = maximum_value_texts(model).texts;
     const double moment = model.max_moment;
 
     trigger_results("metricunits");
     EXPECT_TRUE(model.metric_units);
     EXPECT_TRUE(model.results_valid);
-    EXPECT_EQ(enabled(), std::pair(false, true));
+    EXPECT_EQ(unit_commands_enabled(shown), std::pair(false, true));
     EXPECT_EQ(caption("loadlab1"), "35600 N");  // 8000 lb. relabelled on the Loading Screen
     EXPECT_NEAR(model.max_moment, moment * 0.0254 * 4.448222, 1e-6 * std::abs(moment));
     EXPECT_EQ(maximum_value_texts(model).texts.deflection_at, "4.04 m");
 
     trigger_results("englishunits");
-    EXPECT_EQ(enabled(), std::pair(true, false));
+    EXPECT_EQ(unit_commands_enabled(shown), std::pair(true, false));
     EXPECT_EQ(maximum_value_texts(model).texts.moment, english.moment);
     EXPECT_EQ(maximum_value_texts(model).texts.deflection, english.deflection);
     EXPECT_EQ(maximum_value_texts(model).texts.deflection_at, english.deflection_at);
