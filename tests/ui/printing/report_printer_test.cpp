@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QPainter>
 #include <QPrinter>
 #include <QTemporaryDir>
 
@@ -91,21 +90,6 @@ TEST_F(PrintedPdf, LongReportBreaksPagesBetweenWholeLinesThatFitTheWidth) {
         }
     }
     EXPECT_EQ(found, 150);
-}
-
-TEST_F(PrintedPdf, EachPictureHasAPageBeforeTheText) {
-    const auto picture = [](const char* caption) {
-        return WindowPicture{{1440, 720}, [caption](QPainter& painter, const DrawingUnitMapping&) {
-                                 painter.drawText(QPointF(100, 100), caption);
-                             }};
-    };
-    ASSERT_TRUE(print_report(printer, {picture("FIRST"), picture("SECOND")}, {"TEXT"}).ok());
-    EXPECT_EQ(pdf_page_count(path), 3);
-    const QStringList pages = pdf_text(path).split('\f');
-    ASSERT_GE(pages.size(), 3);
-    EXPECT_TRUE(pages[0].contains("FIRST"));
-    EXPECT_TRUE(pages[1].contains("SECOND"));
-    EXPECT_TRUE(pages[2].contains("TEXT"));
 }
 
 TEST_F(PrintedPdf, NothingToPrintStillEndsTheDocument) {
