@@ -1,5 +1,4 @@
-// Calculations and reaction texts, the file commands, closing, and the Overview's typical use.
-#include <QRadioButton>
+// Reaction texts, the file commands and a file named on the command line, and closing.
 #include <QSignalSpy>
 #include <QTreeWidget>
 #include <filesystem>
@@ -108,12 +107,11 @@ TEST_F(RunsAndFilesTest, SaveAsksForANameOnceThenSavesSilentlyAndOpensBack) {
     EXPECT_EQ(caption("loadlab2"), "700 lb.");
 }
 
-TEST_F(RunsAndFilesTest, ClosingWritesThePreferencesEvenWhenThatFails) {
+// What closing writes is for the preferences tests; here it ends the program even on a failure.
+TEST_F(RunsAndFilesTest, ClosingFinishesEvenWhenThePreferencesCannotBeWritten) {
     started();
-    settings.preferences.default_units = "metric";
     QSignalSpy finished(&window(), &LoadingScreen::finished);
     window().close();
-    EXPECT_EQ(file_text(path("beams.prf")), "\"\",\"\",\"metric\",#FALSE#\r\n");
     EXPECT_EQ(finished.count(), 1);
 
     settings.preferences_dir = path("missing/folder");
@@ -121,31 +119,6 @@ TEST_F(RunsAndFilesTest, ClosingWritesThePreferencesEvenWhenThatFails) {
     window().close();
     EXPECT_EQ(prompts.texts().last(), kUnableToSavePreferences);
     EXPECT_EQ(finished.count(), 2);
-}
-
-// The Overview's typical use: a 5 m metric beam, a 2000 N load at midspan on two supports.
-TEST_F(RunsAndFilesTest, TypicalUseFromStartDialogToReactions) {
-    window().start();
-    auto& start = child<StartDialog>(window(), "properties");
-    child<QRadioButton>(start, "Met").click();
-    child<QLineEdit>(start, "Length").setText("5");
-    child<QPushButton>(start, "Command1").click();
-    discard_closed_windows();
-    ASSERT_TRUE(window().isVisible());
-    EXPECT_DOUBLE_EQ(model.beam_length, 5.0);
-
-    add([&] { return add_point_load(model, 2000.0, 2.5, "m", "N"); });
-    add([&] { return add_support(model, 0.0, "simp", "m", "N"); });
-    add([&] { return add_support(model, 5.0, "simp", "m", "N"); });
-    ASSERT_TRUE(set_section_properties(model, 8.36e-5, 2.1e11, 0.15).ok());
-    EXPECT_EQ(caption("sloadlab2"), "x=5 m");
-
-    trigger("runcalc");
-    EXPECT_EQ(caption("sloadlab21"), "1000 N");
-    EXPECT_EQ(caption("sloadlab22"), "1000 N");
-    EXPECT_NEAR(std::abs(model.max_moment), 2500.0, 1e-6);
-    EXPECT_NEAR(model.max_moment_at, 2.5, 1e-9);
-    EXPECT_TRUE(prompts.shown().empty());
 }
 
 }  // namespace
