@@ -2,10 +2,9 @@
 #include "cli/cli_options.h"
 
 #include <charconv>
-#include <cmath>
 #include <map>
 
-#include "model/limits.h"
+#include "model/beam_settings.h"
 #include "model/typed_number.h"
 
 namespace flexley::cli {
@@ -118,7 +117,7 @@ class Parser {
 
     std::optional<UsageError> resolution(const std::string& text) {
         const auto value = typed_number(text);
-        if (!value || !resolution_in_range(*value) || std::floor(*value) != *value) {
+        if (!value || !is_allowed_resolution(*value)) {
             return UsageError{"--resolution must be a whole number from 10 to 200000, not " + text};
         }
         options_.resolution = static_cast<float>(*value);

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "analysis/reaction_text.h"
+#include "analysis/results_state.h"
 #include "analysis/run.h"
 #include "model/beam_settings.h"
 #include "model/display.h"
@@ -221,7 +222,7 @@ QSize LoadingScreen::picture_extent() const {
 // Reaction texts stand only while the results they come from are those of this beam.
 void LoadingScreen::show_labels() {
     labels_.blank_reaction_texts();
-    if (model_.results_valid || model_.results_partial) {
+    if (results_available(model_)) {
         labels_.show_reaction_texts(show_reactions(model_));
     }
     label_widgets_.show(labels_);
