@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QComboBox>
-#include <QListWidget>
 #include <QTest>
 #include <QTreeWidget>
 #include <filesystem>
@@ -25,18 +24,12 @@ class FileDialogFixture : public LoadingFixture {
         return child<LoadFileDialog>(window(), file_dialog_name(kind));
     }
 
-    // The names the dialog lists: the Open and Import dialogs' matching files, the Save
-    // dialog's files for reference.
+    // The matching files an Open or Import dialog lists.
     static QStringList listed(LoadFileDialog& dialog) {
         QStringList names;
-        if (auto* files = dialog.findChild<QTreeWidget*>("flist")) {
-            for (int i = 0; i < files->topLevelItemCount(); ++i)
-                names << files->topLevelItem(i)->text(0);
-        } else {
-            auto& all = child<QListWidget>(dialog, "filelist");
-            for (int i = 0; i < all.count(); ++i)
-                names << all.item(i)->text();
-        }
+        auto& files = child<QTreeWidget>(dialog, "flist");
+        for (int i = 0; i < files.topLevelItemCount(); ++i)
+            names << files.topLevelItem(i)->text(0);
         return names;
     }
 
@@ -54,10 +47,6 @@ class FileDialogFixture : public LoadingFixture {
         LoadFileDialog& chooser = dialog(kind);
         const std::filesystem::path chosen(path);
         ASSERT_TRUE(chooser.show_directory(QString::fromStdString(chosen.parent_path())));
-        auto& filter = child<QComboBox>(chooser, "filetype");
-        filter.setFocus();
-        filter.setCurrentText("*.*");
-        QTest::keyClick(&filter, Qt::Key_Return);
         click_file(chooser, QString::fromStdString(chosen.filename()));
         child<QPushButton>(chooser, "loadbutton").click();
         discard_closed_windows();
