@@ -63,6 +63,14 @@ class FeatureDialogFixture : public LoadingFixture {
     }
 };
 
+// The Feature menu command that opens the dialog named `dialog` for adding.
+inline const char* add_command(const std::string& dialog) {
+    if (dialog == "load_info") return "addpointload";
+    if (dialog == "distload_info") return "adddistload";
+    if (dialog == "moment_info") return "addmoment";
+    return "addsupport";
+}
+
 // A feature's table entry: point loads and moments {location, magnitude}, distributed loads
 // {start, end, start intensity, end intensity}, supports {location}.
 inline std::vector<double> stored_values(const BeamModel& model, int number) {
