@@ -2,7 +2,9 @@
 // moving supports.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
+#include <string>
 #include <tuple>
 
 #include "model/feature_edits.h"
@@ -29,37 +31,23 @@ BeamModel edit_beam() {
     return m;
 }
 
+// The largest and the previous largest magnitude of point loads, distributed loads and moments.
+std::array<double, 6> scales(const BeamModel& m) {
+    return {m.pt_maxmag, m.pt_scalemag, m.di_maxmag, m.di_scalemag, m.mo_maxmag, m.mo_scalemag};
+}
+
 // The new magnitude is tracked as an addition would be; when the edited load held the largest,
 // the kind is rescanned afterwards and its scale value cleared.
-TEST(EditFeature, KeepsTheDrawingScaleOfTheKind) {
-    using Scale = double BeamModel::*;
-    const struct {
-        const char* name;
-        std::function<Status(BeamModel&)> edit;
-        Scale largest, previous;
-        double want_largest, want_previous;
-    } rows[] = {
-        {"smaller_load_grows_past_largest",
-         [](auto& m) { return edit_point_load(m, 1, 40, 1, "in", "lb"); }, &BeamModel::pt_maxmag,
-         &BeamModel::pt_scalemag, 40, 30},
-        {"load_reaches_largest", [](auto& m) { return edit_point_load(m, 1, -30, 1, "in", "lb"); },
-         &BeamModel::pt_maxmag, &BeamModel::pt_scalemag, 30, 30},
-        {"largest_load_shrinks", [](auto& m) { return edit_point_load(m, 2, 5, 1, "in", "lb"); },
-         &BeamModel::pt_maxmag, &BeamModel::pt_scalemag, 20, 0},
-        {"largest_load_grows", [](auto& m) { return edit_point_load(m, 2, -50, 1, "in", "lb"); },
-         &BeamModel::pt_maxmag, &BeamModel::pt_scalemag, 50, 0},
-        {"largest_distributed_shrinks",
-         [](auto& m) { return edit_distributed_load(m, 4, 0, 5, 1, -2, "in", "pi"); },
-         &BeamModel::di_maxmag, &BeamModel::di_scalemag, 6, 0},
-        {"smaller_moment_grows", [](auto& m) { return edit_moment(m, 7, -8, 1, "in", "pi"); },
-         &BeamModel::mo_maxmag, &BeamModel::mo_scalemag, 8, 7},
-    };
-    for (const auto& row : rows) {
-        BeamModel model = edit_beam();
-        ASSERT_TRUE(row.edit(model).ok()) << row.name;
-        EXPECT_EQ(model.*row.largest, row.want_largest) << row.name;
-        EXPECT_EQ(model.*row.previous, row.want_previous) << row.name;
-    }
+TEST(EditFeature, KeepsTheDrawingScaleOfEachKind) {
+    BeamModel m = edit_beam();
+    ASSERT_TRUE(edit_point_load(m, 1, 40, 1, "in", "lb").ok());  // grows past the largest
+    EXPECT_EQ(scales(m), (std::array<double, 6>{40, 30, 9, 0, 7, 0}));
+    ASSERT_TRUE(edit_point_load(m, 1, 5, 1, "in", "lb").ok());  // the largest shrinks
+    EXPECT_EQ(scales(m), (std::array<double, 6>{30, 0, 9, 0, 7, 0}));
+    ASSERT_TRUE(edit_distributed_load(m, 4, 0, 5, 1, -2, "in", "pi").ok());
+    EXPECT_EQ(scales(m), (std::array<double, 6>{30, 0, 6, 0, 7, 0}));
+    ASSERT_TRUE(edit_moment(m, 7, -8, 1, "in", "pi").ok());
+    EXPECT_EQ(scales(m), (std::array<double, 6>{30, 0, 6, 0, 8, 7}));
 }
 
 TEST(EditFeature, RewritesTheEntryAndItsUnitCodes) {
@@ -77,77 +65,57 @@ TEST(EditFeature, RewritesTheEntryAndItsUnitCodes) {
     EXPECT_EQ(model.loc_unit[10] + model.mag_unit[10], "ftlb");
 }
 
+// The message of a refused edit, which must leave every table as it was.
+std::string refusal(BeamModel& m, const std::function<Status()>& edit) {
+    const BeamModel before = m;
+    const std::string message = edit().message();
+    EXPECT_EQ(std::tie(m.pt_mag, m.pt_loc, m.di_end, m.mo_mag, m.su_loc, m.loc_unit, m.pt_maxmag,
+                       m.pt_scalemag),
+              std::tie(before.pt_mag, before.pt_loc, before.di_end, before.mo_mag, before.su_loc,
+                       before.loc_unit, before.pt_maxmag, before.pt_scalemag))
+        << message;
+    return message;
+}
+
 TEST(EditFeature, RefusesWhatIsNotALiveFeatureOfItsKindOrBreaksTheRules) {
-    const struct {
-        const char* name;
-        std::function<Status(BeamModel&)> edit;
-        const char* message;
-    } rows[] = {
-        {"number_zero", [](auto& m) { return edit_point_load(m, 0, 1, 1, "", ""); },
-         kInvalidFeatureNumber},
-        {"beyond_the_list", [](auto& m) { return edit_support(m, 11, 1, ""); },
-         kInvalidFeatureNumber},
-        {"other_kind", [](auto& m) { return edit_moment(m, 1, 1, 1, "", ""); },
-         kInvalidFeatureNumber},
-        {"removed_load", [](auto& m) { return edit_point_load(m, 3, 1, 1, "", ""); },
-         kInvalidFeatureNumber},
-        {"cantilever", [](auto& m) { return edit_support(m, 9, 10, ""); }, kCantileverCannotMove},
-        {"onto_another_support", [](auto& m) { return edit_support(m, 10, 0, ""); },
-         kSupportExists},
-        {"support_off_the_beam", [](auto& m) { return edit_support(m, 10, 10.5, ""); },
-         kInvalidSupportLocation},
-        {"load_off_the_beam", [](auto& m) { return edit_point_load(m, 1, 1, -1, "", ""); },
-         kInvalidLoadLocation},
-        {"end_before_start",
-         [](auto& m) { return edit_distributed_load(m, 4, 6, 2, 1, 1, "", ""); },
-         kInvalidEndingLocation},
-        {"zero_moment", [](auto& m) { return edit_moment(m, 6, 0, 1, "", ""); }, kNonZeroMoment},
-    };
-    for (const auto& row : rows) {
-        BeamModel model = edit_beam();
-        ASSERT_TRUE(remove_feature(model, 3).ok());
-        const BeamModel before = model;
-        EXPECT_EQ(row.edit(model).message(), row.message) << row.name;
-        EXPECT_EQ(std::tie(model.pt_mag, model.pt_loc, model.di_end, model.mo_mag, model.su_loc,
-                           model.loc_unit, model.pt_maxmag, model.pt_scalemag),
-                  std::tie(before.pt_mag, before.pt_loc, before.di_end, before.mo_mag,
-                           before.su_loc, before.loc_unit, before.pt_maxmag, before.pt_scalemag))
-            << row.name;
-    }
+    BeamModel m = edit_beam();
+    ASSERT_TRUE(remove_feature(m, 3).ok());
+    EXPECT_EQ(refusal(m, [&] { return edit_support(m, 11, 1, ""); }), kInvalidFeatureNumber);
+    EXPECT_EQ(refusal(m, [&] { return edit_moment(m, 1, 1, 1, "", ""); }), kInvalidFeatureNumber);
+    EXPECT_EQ(refusal(m, [&] { return edit_point_load(m, 3, 1, 1, "", ""); }),  // removed
+              kInvalidFeatureNumber);
+    EXPECT_EQ(refusal(m, [&] { return edit_support(m, 9, 10, ""); }), kCantileverCannotMove);
+    EXPECT_EQ(refusal(m, [&] { return edit_support(m, 10, 0, ""); }), kSupportExists);
+    EXPECT_EQ(refusal(m, [&] { return edit_point_load(m, 1, 1, -1, "", ""); }),
+              kInvalidLoadLocation);
+    EXPECT_EQ(refusal(m, [&] { return edit_distributed_load(m, 4, 6, 2, 1, 1, "", ""); }),
+              kInvalidEndingLocation);
+    EXPECT_EQ(refusal(m, [&] { return edit_moment(m, 6, 0, 1, "", ""); }), kNonZeroMoment);
 }
 
 TEST(RemoveFeature, NeutralisesInPlaceAndRescansTheLargest) {
-    BeamModel model = edit_beam();
-    ASSERT_TRUE(remove_feature(model, 1).ok());  // not the largest: the scale stays
-    EXPECT_EQ(model.pt_mag[1], 0);
-    EXPECT_EQ(model.pt_loc[1], 1);
-    EXPECT_EQ(model.pt_maxmag, 30);
-    EXPECT_EQ(model.pt_scalemag, 10);
+    BeamModel m = edit_beam();
+    // Not the largest: the scale stays; then the largest: rescan, scale value reset.
+    ASSERT_TRUE(remove_feature(m, 1).ok());
+    EXPECT_EQ(std::tie(m.pt_mag[1], m.pt_loc[1], m.pt_maxmag, m.pt_scalemag),
+              std::make_tuple(0.0, 1.0, 30.0, 10.0));
+    ASSERT_TRUE(remove_feature(m, 2).ok());
+    EXPECT_EQ(std::tie(m.pt_maxmag, m.pt_scalemag), std::make_tuple(20.0, 0.0));
+    ASSERT_TRUE(remove_feature(m, 4).ok());
+    EXPECT_EQ(std::tie(m.di_mag_start[1], m.di_mag_end[1], m.di_maxmag),
+              std::make_tuple(0.0, 0.0, 6.0));
+    ASSERT_TRUE(remove_feature(m, 6).ok());
+    ASSERT_TRUE(remove_feature(m, 7).ok());  // the last moment
+    EXPECT_EQ(m.mo_maxmag, 0);
+    ASSERT_TRUE(remove_feature(m, 9).ok());
+    EXPECT_EQ(m.su_loc[2], -1);
+    EXPECT_EQ(m.su_type[2], "cant");
+    EXPECT_TRUE(is_removed(m, {FeatureKind::support, 2}));
 
-    ASSERT_TRUE(remove_feature(model, 2).ok());  // the largest: rescan, scale value reset
-    EXPECT_EQ(model.pt_maxmag, 20);
-    EXPECT_EQ(model.pt_scalemag, 0);
-
-    ASSERT_TRUE(remove_feature(model, 4).ok());
-    EXPECT_EQ(model.di_mag_start[1], 0);
-    EXPECT_EQ(model.di_mag_end[1], 0);
-    EXPECT_EQ(model.di_maxmag, 6);
-
-    ASSERT_TRUE(remove_feature(model, 6).ok());
-    EXPECT_EQ(model.mo_maxmag, 3);
-    ASSERT_TRUE(remove_feature(model, 7).ok());  // the last moment
-    EXPECT_EQ(model.mo_maxmag, 0);
-
-    ASSERT_TRUE(remove_feature(model, 9).ok());
-    EXPECT_EQ(model.su_loc[2], -1);
-    EXPECT_EQ(model.su_type[2], "cant");
-    EXPECT_TRUE(is_removed(model, {FeatureKind::support, 2}));
-
-    EXPECT_EQ(remove_feature(model, 11).message(), "Invalid feature number.");
-    EXPECT_EQ(model.pt_count, 3);
-    EXPECT_EQ(model.feature_count, 10);
-    ASSERT_TRUE(add_moment(model, 1, 1, "in", "pi").ok());
-    EXPECT_EQ(model.feature_list[11], "mo3");  // feature numbers are never reused
+    EXPECT_EQ(remove_feature(m, 11).message(), "Invalid feature number.");
+    EXPECT_EQ(std::tie(m.pt_count, m.feature_count), std::make_tuple(3, 10));
+    ASSERT_TRUE(add_moment(m, 1, 1, "in", "pi").ok());
+    EXPECT_EQ(m.feature_list[11], "mo3");  // feature numbers are never reused
 }
 
 }  // namespace

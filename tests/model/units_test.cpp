@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
 #include <vector>
 
 #include "model/features.h"
@@ -9,6 +10,8 @@
 
 namespace flexley {
 namespace {
+
+constexpr double kMetresPerInch = 0.0254, kNewtonsPerPound = 4.448222;
 
 BeamModel english_beam() {
     BeamModel model;
@@ -25,46 +28,42 @@ BeamModel english_beam() {
     return model;
 }
 
-TEST(ConvertUnits, EnglishToMetricUsesTheTwoFactors) {
+// Each feature's position and magnitude unit codes, in feature order.
+std::string unit_codes(const BeamModel& model) {
+    std::string codes;
+    for (int n = 1; n <= model.feature_count; ++n)
+        codes += model.loc_unit[n] + model.mag_unit[n] + " ";
+    return codes;
+}
+
+TEST(ConvertUnits, EnglishToMetricUsesTheTwoFactorsAndBackRewritesCodesByKind) {
     BeamModel model = english_beam();
     std::vector<int> pen_modes;
     convert_units(model, "eng_to_met", [&](int mode) { pen_modes.push_back(mode); });
 
     EXPECT_EQ(pen_modes, (std::vector<int>{kPenErase, kPenDraw}));
     EXPECT_TRUE(model.metric_units);
-    EXPECT_DOUBLE_EQ(model.beam_length, 240 * 0.0254);
-    EXPECT_DOUBLE_EQ(model.pt_mag[1], 1000 * 4.448222);
-    EXPECT_DOUBLE_EQ(model.pt_maxmag, 1000 * 4.448222);
-    EXPECT_DOUBLE_EQ(model.mo_mag[1], 500 * 4.448222 * 0.0254);
-    EXPECT_DOUBLE_EQ(model.di_mag_end[1], 20 * 4.448222 / 0.0254);
-    EXPECT_DOUBLE_EQ(model.di_maxmag, 20 * 4.448222 / 0.0254);
-    EXPECT_DOUBLE_EQ(model.di_end[1], 240 * 0.0254);
+    EXPECT_DOUBLE_EQ(model.beam_length, 240 * kMetresPerInch);
+    EXPECT_DOUBLE_EQ(model.pt_mag[1], 1000 * kNewtonsPerPound);
+    EXPECT_DOUBLE_EQ(model.pt_maxmag, 1000 * kNewtonsPerPound);
+    EXPECT_DOUBLE_EQ(model.mo_mag[1], 500 * kNewtonsPerPound * kMetresPerInch);
+    EXPECT_DOUBLE_EQ(model.di_mag_end[1], 20 * kNewtonsPerPound / kMetresPerInch);
+    EXPECT_DOUBLE_EQ(model.di_maxmag, 20 * kNewtonsPerPound / kMetresPerInch);
+    EXPECT_DOUBLE_EQ(model.di_end[1], 240 * kMetresPerInch);
     EXPECT_EQ(model.su_loc[1], -1.0);  // removed support stays removed
-    EXPECT_DOUBLE_EQ(model.su_loc[2], 240 * 0.0254);
-    EXPECT_EQ(model.moment_of_inertia, static_cast<float>(100.0 * std::pow(0.0254, 4.0)));
-    EXPECT_EQ(model.elastic_modulus, static_cast<float>(29e6 * 4.448222 / std::pow(0.0254, 2.0)));
-    EXPECT_EQ(model.fibre_distance, static_cast<float>(5.0 * 0.0254));
-    for (int n = 1; n <= model.feature_count; ++n) {
-        EXPECT_EQ(model.loc_unit[n], "m");
-        EXPECT_EQ(model.mag_unit[n], "N");
-    }
-}
+    EXPECT_DOUBLE_EQ(model.su_loc[2], 240 * kMetresPerInch);
+    EXPECT_EQ(model.moment_of_inertia, static_cast<float>(100.0 * std::pow(kMetresPerInch, 4.0)));
+    EXPECT_EQ(model.elastic_modulus,
+              static_cast<float>(29e6 * kNewtonsPerPound / std::pow(kMetresPerInch, 2.0)));
+    EXPECT_EQ(model.fibre_distance, static_cast<float>(5.0 * kMetresPerInch));
+    EXPECT_EQ(unit_codes(model), "mN mN mN mN mN ");
 
-TEST(ConvertUnits, MetricToEnglishRewritesCodesByKind) {
-    BeamModel model = english_beam();
-    convert_units(model, "eng_to_met");
     convert_units(model, "met_to_eng");
-
     EXPECT_FALSE(model.metric_units);
-    const char* loc[] = {"", "in", "in", "in", "in", "in"};
-    const char* mag[] = {"", "lb", "pi", "pi", "lb", "lb"};
-    for (int n = 1; n <= model.feature_count; ++n) {
-        EXPECT_EQ(model.loc_unit[n], loc[n]) << n;
-        EXPECT_EQ(model.mag_unit[n], mag[n]) << n;
-    }
+    EXPECT_EQ(unit_codes(model), "inlb inpi inpi inlb inlb ");
     // A round trip is not corrected: lengths come back times 0.0254 x 39.37..., forces likewise.
-    EXPECT_DOUBLE_EQ(model.beam_length, 240 * 0.0254 * 39.3700787401575);
-    EXPECT_DOUBLE_EQ(model.pt_mag[1], 1000 * 4.448222 * 0.224808923655339);
+    EXPECT_DOUBLE_EQ(model.beam_length, 240 * kMetresPerInch * 39.3700787401575);
+    EXPECT_DOUBLE_EQ(model.pt_mag[1], 1000 * kNewtonsPerPound * 0.224808923655339);
     EXPECT_EQ(model.su_loc[1], -1.0);
 }
 
