@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "model/beam_model.h"
+#include "model/status.h"
 #include "ui/common/picture.h"
 #include "ui/loading/beam_picture.h"
 #include "ui/loading/label_groups.h"
@@ -39,19 +40,16 @@ struct Screen {
 
     explicit Screen(double length = 240) { model.beam_length = length; }
 
-    void redraw(int pen_mode = kPenDraw) {
-        picture = redraw_screen(model, geometry, pen_mode, labels);
+    void redraw() { picture = redraw_screen(model, geometry, kPenDraw, labels); }
+
+    // Draws a feature just added, as the feature dialogs do.
+    void draw_added(const Status& added) {
+        ASSERT_TRUE(added.ok()) << added.message();
+        redraw();
     }
 
     const Label& label(int feature_number, int slot) const {
         return labels.group(feature_number).labels[slot];
-    }
-
-    std::vector<int> tops(int feature_number) const {
-        std::vector<int> found;
-        for (const auto& label : labels.group(feature_number).labels)
-            found.push_back(label.top);
-        return found;
     }
 };
 

@@ -1,9 +1,9 @@
-// Painting pictures: a few tolerant pixels at device pixel ratios 1 and 2, and the view's image.
+// Painting pictures into the view's backing image: a few tolerant pixels, before and after a
+// resize.
 #include <gtest/gtest.h>
 
 #include <QColor>
 #include <QImage>
-#include <QPainter>
 
 #include "ui/common/picture_painter.h"
 #include "ui/common/picture_view.h"
@@ -26,10 +26,9 @@ drawing::Picture sample_picture() {
 }
 
 bool near(QColor actual, QColor expected) {
-    const int tolerance = 60;
-    return std::abs(actual.red() - expected.red()) <= tolerance &&
-           std::abs(actual.green() - expected.green()) <= tolerance &&
-           std::abs(actual.blue() - expected.blue()) <= tolerance;
+    return std::max({std::abs(actual.red() - expected.red()),
+                     std::abs(actual.green() - expected.green()),
+                     std::abs(actual.blue() - expected.blue())}) <= 60;
 }
 
 // The colour at a point given in logical pixels, whatever the image's pixel ratio.
@@ -46,26 +45,10 @@ void expect_sample(const QImage& image, double scale = 1) {
         EXPECT_TRUE(near(at(image, x * scale, 30 * scale), Qt::white)) << x;
     // The hatch leaves both ink and paper inside the bar.
     int dark = 0;
-    int light = 0;
-    for (int x = 20; x < 80; ++x) {
-        const QColor colour = at(image, x * scale, 75 * scale);
-        (colour.lightness() < 128 ? dark : light) += 1;
-    }
+    for (int x = 20; x < 80; ++x)
+        dark += at(image, x * scale, 75 * scale).lightness() < 128;
     EXPECT_GT(dark, 5);
-    EXPECT_GT(light, 5);
-}
-
-TEST(PicturePainter, PaintsTheSamePictureAtPixelRatiosOneAndTwo) {
-    for (const double ratio : {1.0, 2.0}) {
-        QImage image(QSize(100, 100) * ratio, QImage::Format_ARGB32);
-        image.setDevicePixelRatio(ratio);
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        paint_picture(painter, sample_picture(), DrawingUnitMapping(96), Qt::white);
-        painter.end();
-        SCOPED_TRACE(ratio);
-        expect_sample(image);
-    }
+    EXPECT_LT(dark, 60 - 5);
 }
 
 TEST(PictureView, BackingImageFollowsSizeAndShowsTheSamePictureAfterAResize) {
@@ -77,9 +60,7 @@ TEST(PictureView, BackingImageFollowsSizeAndShowsTheSamePictureAfterAResize) {
     // The same picture at the widget's own resolution, whatever the offscreen screen reports.
     const double scale = view.mapping().dots_per_inch() / 96;
     view.show_picture(sample_picture());
-    const QImage& image = view.backing_image();
-    EXPECT_EQ(image.size(), QSize(100, 100) * view.devicePixelRatioF());
-    expect_sample(image, scale);
+    expect_sample(view.backing_image(), scale);
 
     view.resize(300, 200);
     EXPECT_EQ(view.backing_image().size(), QSize(300, 200) * view.devicePixelRatioF());
@@ -87,12 +68,9 @@ TEST(PictureView, BackingImageFollowsSizeAndShowsTheSamePictureAfterAResize) {
 
     // A whole redraw starts from a clean image: nothing of the previous picture remains.
     view.show_picture(drawing::Picture{});
-    const QImage& redrawn = view.backing_image();
-    for (int y = 0; y < redrawn.height(); ++y) {
-        for (int x = 0; x < redrawn.width(); ++x) {
-            ASSERT_EQ(redrawn.pixelColor(x, y), QColor(Qt::white)) << x << "," << y;
-        }
-    }
+    QImage blank = view.backing_image();
+    blank.fill(Qt::white);
+    EXPECT_EQ(view.backing_image(), blank);
 }
 
 }  // namespace
