@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "model/beam_model.h"
+#include "model/beam_settings.h"
 #include "model/features.h"
 
 namespace flexley::testing_beams {
@@ -50,13 +51,10 @@ inline Status apply_word(BeamModel& model, std::string word) {
 inline BeamModel beam(const std::string& description) {
     BeamModel model;
     model.beam_length = kLength;
-    model.elastic_modulus = kModulus;
-    model.moment_of_inertia = kInertia;
-    model.fibre_distance = kFibre;
+    EXPECT_TRUE(set_section_properties(model, kInertia, kModulus, kFibre).ok());
     std::istringstream words(description);
-    for (std::string word; words >> word;) {
+    for (std::string word; words >> word;)
         EXPECT_EQ(apply_word(model, word).message(), "") << word;
-    }
     return model;
 }
 
