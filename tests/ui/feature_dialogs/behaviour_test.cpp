@@ -45,11 +45,8 @@ using FeatureDialogsTest = FeatureDialogFixture;
 
 TEST_F(FeatureDialogsTest, EditingTheLargestLoadDownRescalesEveryGroup) {
     start_beam(false);
-    for (const char* magnitude : {"100", "50"}) {
-        trigger("addpointload");
-        act(dialog("load_info"), QString("loadloc=2 loadmag=") + magnitude);
-        press_command1(dialog("load_info"));
-    }
+    add("load_info", "loadloc=2 loadmag=100");
+    add("load_info", "loadloc=2 loadmag=50");
     edit(1);
     act(dialog("load_info"), "loadloc=4 loadmag=10");
     press_command1(dialog("load_info"));
@@ -126,36 +123,30 @@ TEST_F(FeatureDialogsTest, FocusStartsInTheFirstBoxAndEnterAddsFromAnyBox) {
     EXPECT_TRUE(prompts.shown().empty());
 }
 
-TEST_F(FeatureDialogsTest, AnOpenDialogIsBroughtBackWithWhatWasTyped) {
+// A menu command brings back its dialog that is open, with what was typed, and refuses before
+// opening one when the table is full.
+TEST_F(FeatureDialogsTest, AMenuCommandBringsBackItsOpenDialogOrRefusesAFullTable) {
     start_beam(false);
     trigger("addmoment");
     act(dialog("moment_info"), "loadloc=3");
     trigger("addmoment");
     EXPECT_EQ(window().findChildren<FeatureDialog*>("moment_info").size(), 1);
     EXPECT_EQ(box_text("moment_info", "loadloc"), "3");
-}
 
-TEST_F(FeatureDialogsTest, AFullTableIsRefusedBeforeTheDialogOpens) {
-    start_beam(false);
     for (int k = 0; k < kMaxPointLoads; ++k)
         ASSERT_TRUE(add_point_load(model, 10, k, "in", "lb").ok());
     trigger("addpointload");
     EXPECT_EQ(prompts.texts(),
               QStringList{"No more point loads can be added: a beam holds at most 50."});
-    EXPECT_EQ(window().findChild<FeatureDialog*>(), nullptr);
+    EXPECT_EQ(open_dialog("load_info"), nullptr);
 }
 
 // The Overview's typical use, every feature entered through its dialog.
 TEST_F(FeatureDialogsTest, TypicalUseGivesEachSupportHalfTheLoad) {
     start_beam(true);
-    trigger("addpointload");
-    act(dialog("load_info"), "loadloc=2.5 loadmag=2000");
-    press_command1(dialog("load_info"));
-    for (const char* at : {"0", "5"}) {
-        trigger("addsupport");
-        act(dialog("support_info"), QString("suploc=") + at);
-        press_command1(dialog("support_info"));
-    }
+    add("load_info", "loadloc=2.5 loadmag=2000");
+    add("support_info", "suploc=0");
+    add("support_info", "suploc=5");
     ASSERT_TRUE(set_section_properties(model, 8.36e-5, 2.1e11, 0.15).ok());
     trigger("runcalc");
     EXPECT_EQ(caption("sloadlab21"), "1000 N");

@@ -59,14 +59,11 @@ INSTANTIATE_TEST_SUITE_P(Add, EntryTest, ::testing::Values(
     EntryRow{"point_kilograms", true, "load_info", "loadloc=1 kg loadmag=10", {1, 98.0665}, "m,kg"},
     EntryRow{"distributed_feet_per_foot", false, "distload_info",
              "loadstart=0 loadend=10 loadmag0=12 loadmag1=24", {0, 120, 1, 2}, "ft,pf"},
-    EntryRow{"distributed_inches_per_inch", false, "distload_info",
-             "inch loadstart=10 loadend=100 pi loadmag0=0 loadmag1=5", {10, 100, 0, 5}, "in,pi"},
     EntryRow{"distributed_kilograms", true, "distload_info",
              "loadstart=1 loadend=2 kg loadmag0=1 loadmag1=-2", {1, 2, 9.80665, -19.6133}, "m,kg"},
     EntryRow{"moment_pound_inches", false, "moment_info", "inch loadloc=0 pi loadmag=-30", {0, -30}, "in,pi"},
     EntryRow{"moment_kilogram_metres", true, "moment_info", "loadloc=5 kg loadmag=1", {5, 9.80665}, "m,kg"},
     EntryRow{"support_feet", false, "support_info", "suploc=5", {60}, "ft,lb"},
-    EntryRow{"support_inches", false, "support_info", "inch suploc=1200", {1200}, "in,lb"},
     EntryRow{"support_metric", true, "support_info", "suploc=5", {5}, ","}),
     [](const auto& info) { return std::string(info.param.name); });
 

@@ -12,6 +12,14 @@
 
 namespace flexley::testing {
 
+// The Feature menu command that opens the dialog named `dialog` for adding.
+inline const char* add_command(const std::string& dialog) {
+    if (dialog == "load_info") return "addpointload";
+    if (dialog == "distload_info") return "adddistload";
+    if (dialog == "moment_info") return "addmoment";
+    return "addsupport";
+}
+
 class FeatureDialogFixture : public LoadingFixture {
   protected:
     // A beam from the start dialog: English 100 ft (1200 in.) or metric 5 m.
@@ -58,18 +66,17 @@ class FeatureDialogFixture : public LoadingFixture {
         discard_closed_windows();
     }
 
+    // Adds a feature through its dialog, as `act` describes its controls.
+    void add(const char* dialog_name, const QString& actions) {
+        trigger(add_command(dialog_name));
+        act(dialog(dialog_name), actions);
+        press_command1(dialog(dialog_name));
+    }
+
     QString box_text(const char* dialog_name, const char* box) {
         return child<QLineEdit>(dialog(dialog_name), box).text();
     }
 };
-
-// The Feature menu command that opens the dialog named `dialog` for adding.
-inline const char* add_command(const std::string& dialog) {
-    if (dialog == "load_info") return "addpointload";
-    if (dialog == "distload_info") return "adddistload";
-    if (dialog == "moment_info") return "addmoment";
-    return "addsupport";
-}
 
 // A feature's table entry: point loads and moments {location, magnitude}, distributed loads
 // {start, end, start intensity, end intensity}, supports {location}.
