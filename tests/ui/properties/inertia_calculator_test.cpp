@@ -53,18 +53,5 @@ TEST_F(PropertiesFixture, MetricCalculationIsStoredInMetresOnContinue) {
     EXPECT_EQ(model.fibre_distance, 0.05f);
 }
 
-// The round and rectangular inputs share no frame; an inner size only counts for a tube.
-TEST_F(PropertiesFixture, SectionOptionsSwitchFramesAndKeepTypedValues) {
-    InertiaCalculatorDialog calculator(model, prompts);
-    calculator.show();
-    EXPECT_FALSE(child<QWidget>(calculator, "ID").isEnabled());
-    type(calculator, "OD", "3");
-    child<QRadioButton>(calculator, "squarecs").click();
-    EXPECT_FALSE(child<QWidget>(calculator, "round_frame").isVisible());
-    EXPECT_FALSE(child<QWidget>(calculator, "Wall").isEnabled());
-    child<QRadioButton>(calculator, "roundcs").click();
-    EXPECT_EQ(text(calculator, "OD"), "3");
-}
-
 }  // namespace
 }  // namespace flexley::testing

@@ -1,14 +1,12 @@
-// Beam properties dialogs opened on a bare model, with scripted prompts and a folder for lists.
+// Beam properties dialogs opened on a bare model with scripted prompts and the shipped section
+// list.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
-#include <fstream>
-#include <string>
 
 #include "ui/dialogs/beam_properties_dialog.h"
 #include "ui/loading/loading_fixture.h"
@@ -18,12 +16,6 @@ namespace flexley::testing {
 class PropertiesFixture : public ::testing::Test {
   protected:
     PropertiesFixture() { settings.shipped_definitions = FLEXLEY_DATA_DIR "/beams.lst"; }
-
-    std::string write_list(const std::string& text) const {
-        const std::string path = (folder.path() + "/sections.lst").toStdString();
-        std::ofstream(path) << text;
-        return path;
-    }
 
     // Replaces a box's text as the user would: select all, then type (or delete).
     static void type(QWidget& dialog, const char* box, const QString& text) {
@@ -47,7 +39,6 @@ class PropertiesFixture : public ::testing::Test {
         return child<Dialog>(owner, name);
     }
 
-    QTemporaryDir folder;
     BeamModel model;
     ProgramSettings settings;
     ScriptedPrompts prompts;

@@ -1,20 +1,12 @@
 // The standard section chooser: the list file, conversions on selection, sig_figs, the filter.
 #include <QListWidget>
 #include <QSignalSpy>
-#include <utility>
 
 #include "properties_fixture.h"
 #include "ui/dialogs/section_chooser_dialog.h"
 
 namespace flexley::testing {
 namespace {
-
-constexpr const char* kTwoSystemsList =
-    "Notes: a line of instructions.\n"
-    "W BEAMS\n"
-    "W12 X 26, 204, 6.1, 17.3, 3.245, E\n"
-    "IPE 300, 83.56, 150, 6.04, 75, M\n"
-    "\"\"\n";
 
 // Chooses a name in the first tab, as a click on it does.
 void select(const QDialog& chooser, const char* name) {
@@ -36,7 +28,6 @@ QStringList shown_names(const QDialog& chooser) {
 // Continue refuses. sig_figs is the model's and shows on the Loading Screen: it is 6 only while
 // the chooser is open.
 TEST_F(PropertiesFixture, ChooserHandsTheChosenAxisToTheBeamProperties) {
-    settings.preferences.beam_definition_path = write_list(kTwoSystemsList);
     model.metric_units = true;
     model.sig_figs = 3;
     BeamPropertiesDialog properties(model, settings, prompts);
@@ -69,16 +60,15 @@ TEST_F(PropertiesFixture, ChooserHandsTheChosenAxisToTheBeamProperties) {
 
 // The typed path becomes the preferred one, found or not; a second miss asks no more.
 TEST_F(PropertiesFixture, ChooserAsksOnceForThePathOfAMissingList) {
-    const std::string found = write_list(kTwoSystemsList);
-    for (const std::string& answer : {found, std::string("/no/such/beams.lst")}) {
+    for (const std::string& answer : {settings.shipped_definitions, std::string("/no/beams.lst")}) {
         settings.preferences.beam_definition_path = "/missing/beams.lst";
         prompts.answer_text(QString::fromStdString(answer));
         SectionChooserDialog chooser(model, settings, prompts);
-        const bool exists = answer == found;
+        const bool exists = answer == settings.shipped_definitions;
         QStringList shown{"File not found.", kBeamDefinitionPathPrompt};
         if (!exists) shown << "File not found.";
         EXPECT_EQ(prompts.texts(), shown);
-        EXPECT_EQ(shown_names(chooser).size(), exists ? 2 : 0);
+        EXPECT_EQ(shown_names(chooser).isEmpty(), !exists);
         EXPECT_EQ(settings.preferences.beam_definition_path, answer);
         prompts.forget_shown();
     }
