@@ -7,16 +7,13 @@
 namespace flexley::testing {
 namespace {
 
-class BrowserTest : public FileDialogFixture {
-  protected:
-    void touch(const std::string& name) { std::ofstream(path(name)) << "x"; }
-};
+using BrowserTest = FileDialogFixture;
 
 // Which texts refresh at once and which on leaving is the core's rule; here, that each way of
 // refreshing reaches the list.
 TEST_F(BrowserTest, TheFilterRefreshesOnACompletePatternOnLeavingTheBoxAndOnAChoice) {
     for (const char* name : {"a.lod", "b.dat", ".hidden.lod"})
-        touch(name);
+        std::ofstream(path(name)) << "x";
     started();
     trigger("openloadcfg");
     LoadFileDialog& open = dialog(FileDialogKind::open);
@@ -41,7 +38,7 @@ TEST_F(BrowserTest, TheFilterRefreshesOnACompletePatternOnLeavingTheBoxAndOnACho
 
 TEST_F(BrowserTest, FilesAreListedInBinaryOrderWithTheirDates) {
     for (const char* name : {"B.lod", "a.lod", "A.lod", "notes.txt"})
-        touch(name);
+        std::ofstream(path(name)) << "x";
     started();
     trigger("importloadcfg");
     LoadFileDialog& import = dialog(FileDialogKind::import);
@@ -79,7 +76,6 @@ TEST_F(BrowserTest, DialogsStartInTheWorkingFolderElseTheLastAndKeepOneThatCanno
               QStringList{"The folder " + QString::fromStdString(path("last/deeper/gone")) +
                           " cannot be read.  No such file or directory."});
     EXPECT_EQ(open.directory().toStdString(), path("last/deeper"));
-    EXPECT_TRUE(dialog_open(FileDialogKind::open)) << "Enter in the folder list never loads";
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include <QTest>
 #include <QTreeWidget>
 #include <filesystem>
-#include <string>
 
 #include "ui/dialogs/load_file_dialog.h"
 #include "ui/loading/loading_fixture.h"

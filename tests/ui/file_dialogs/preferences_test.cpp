@@ -10,25 +10,18 @@
 namespace flexley::testing {
 namespace {
 
-class PreferencesTest : public FileDialogFixture {
-  protected:
-    PreferencesDialog& preferences_dialog() {
-        trigger("file_preferences");
-        return child<PreferencesDialog>(window(), "preferences");
-    }
-};
+using PreferencesTest = FileDialogFixture;
 
 TEST_F(PreferencesTest, OkStoresEverySettingThatPassesEvenWhenTheBeamDefinitionPathIsRefused) {
     std::filesystem::create_directory(path("Work"));
     started();
-    PreferencesDialog& dialog = preferences_dialog();
+    trigger("file_preferences");
+    auto& dialog = child<PreferencesDialog>(window(), "preferences");
     child<QLineEdit>(dialog, "beamdefn").setText(QString::fromStdString(path("missing.lst")));
     child<QLineEdit>(dialog, "workfiledefn").setText(QString::fromStdString(path("Work")));
     child<QRadioButton>(dialog, "metopt").click();
     child<QCheckBox>(dialog, "outline").click();
     child<QPushButton>(dialog, "OK").click();
-    discard_closed_windows();
-
     EXPECT_EQ(prompts.texts(), QStringList{kBeamDefinitionFileMissing});
     EXPECT_TRUE(settings.preferences.beam_definition_path.empty());
     EXPECT_EQ(settings.preferences.working_files_path, path("Work")) << "case kept as typed";
@@ -48,7 +41,8 @@ TEST_F(PreferencesTest, AFirstRunSaysSoOnceAndWhatItChoseSurvivesARestart) {
     const QString newest = child<QAction>(window(), "recentfile1").text();
     EXPECT_TRUE(newest.startsWith("&1 ") && newest.endsWith("second&&third.lod"))
         << newest.toStdString();
-    PreferencesDialog& dialog = preferences_dialog();
+    trigger("file_preferences");
+    auto& dialog = child<PreferencesDialog>(window(), "preferences");
     child<QCheckBox>(dialog, "exactintegration").click();
     child<QPushButton>(dialog, "OK").click();
     window().close();

