@@ -56,20 +56,16 @@ TEST(PlotPicture, FramesGridLinesAndTitlesStandWhereTheWorkAreaPutsThem) {
         SCOPED_TRACE(row.title);
         const drawing::Picture picture = plot_picture(model, row.kind, kGeometry, false);
         const auto lines = drawing::shapes_of<drawing::Line>(picture);
-        ASSERT_EQ(lines.size(), 15u);  // the zero line, then a horizontal and a vertical per step
+        // The zero line, then a horizontal and a vertical grid line per step from the top.
+        ASSERT_EQ(lines.size(), 15u);
         EXPECT_EQ(lines[0].from, (drawing::Point{2400, double(row.centre)}));
         EXPECT_EQ(lines[0].to, (drawing::Point{16800, double(row.centre)}));
-        EXPECT_EQ(lines[0].ink.colour, drawing::kBlack);
-        for (int i = -3; i <= 3; ++i) {
-            const auto& horizontal = lines[1 + 2 * (i + 3)];
-            const auto& vertical = lines[2 + 2 * (i + 3)];
-            const double y = row.centre + i * 1600.0 / 3;
-            EXPECT_EQ(horizontal.from, (drawing::Point{16800, y}));
-            EXPECT_EQ(horizontal.to, (drawing::Point{2400, y}));
-            EXPECT_EQ(horizontal.ink.colour, kGridBlue);
-            const double x = 2400 + 2400.0 * (i + 3);
-            EXPECT_EQ(vertical.from, (drawing::Point{x, row.centre - 1600.0}));
-            EXPECT_EQ(vertical.to, (drawing::Point{x, row.centre + 1600.0}));
+        for (int i = 0; i < 7; ++i) {
+            EXPECT_EQ(lines[1 + 2 * i].to,
+                      (drawing::Point{2400, row.centre + (i - 3) * 1600.0 / 3}));
+            EXPECT_EQ(lines[1 + 2 * i].ink.colour, kGridBlue);
+            EXPECT_EQ(lines[2 + 2 * i].from,
+                      (drawing::Point{2400 + 2400.0 * i, row.centre - 1600.0}));
         }
         const auto texts = drawing::shapes_of<drawing::Text>(picture);
         ASSERT_EQ(texts.size(), 15u);
@@ -79,26 +75,13 @@ TEST(PlotPicture, FramesGridLinesAndTitlesStandWhereTheWorkAreaPutsThem) {
         EXPECT_EQ(texts.back().text, row.title);
         EXPECT_EQ(texts.back().position,
                   (drawing::Point{row.title_x, row.centre - 1600 - 16000.0 / 30}));
-        EXPECT_TRUE(texts.back().font.bold);
-        EXPECT_EQ(texts.back().font.point_size, 14);
-        EXPECT_EQ(texts.back().ink.colour, drawing::kBlack);
+        EXPECT_TRUE(texts.back().font.bold && texts.back().font.point_size == 14);
     }
 }
 
-TEST(PlotPicture, OutlineModeDrawsTheMiddleGridLineTwiceAsHeavy) {
-    const BeamModel model = beam(false, 120);
-    const drawing::Picture picture = plot_picture(model, PlotKind::moment, kGeometry, true);
-    EXPECT_EQ(drawing::shapes_of<drawing::Line>(picture).size(), 14u);
-    const auto bars = drawing::shapes_of<drawing::Rectangle>(picture);
-    ASSERT_EQ(bars.size(), 1u);
-    EXPECT_EQ(bars[0].top_left, (drawing::Point{2400, 2667 - 7.5}));
-    EXPECT_EQ(bars[0].bottom_right, (drawing::Point{16800, 2667 + 7.5}));
-    EXPECT_EQ(bars[0].fill, drawing::Fill::solid);
-}
-
-// The unit is chosen once from |max|, a maximum on a threshold taking the larger unit; the
-// labels run from +|max| on the top line through 0 to -|max|. Deflections: E x I = 10, the top
-// line carrying +|max| / EI, times 1000 in millimetres.
+// The unit is chosen once from |max| by the reports' rule, whose thresholds the report tests
+// cover; the labels run from +|max| on the top line through 0 to -|max|. Deflections: E x I = 10,
+// the top line carrying +|max| / EI, times 1000 in millimetres.
 TEST(PlotPicture, ValueLabelsFollowTheMaximumInOneUnit) {
     const struct {
         PlotKind kind;
@@ -106,16 +89,10 @@ TEST(PlotPicture, ValueLabelsFollowTheMaximumInOneUnit) {
         double maximum;                   // stored
         std::vector<std::string> labels;  // top line, the one below, the zero line
     } rows[] = {
-        {PlotKind::moment, false, -999.9, {"999.9 lb.-in.", "666.6 lb.-in.", "0 lb.-in."}},
         {PlotKind::moment, false, 1000, {"83.33 lb.-ft.", "55.56 lb.-ft.", "0 lb.-ft."}},
-        {PlotKind::moment, true, 3000, {"3000 N-m", "2000 N-m", "0 N-m"}},
-        {PlotKind::stress, true, 999, {"999 Pa", "666 Pa", "0 Pa"}},
         {PlotKind::stress, true, 1000, {"1 kPa", "0.6667 kPa", "0 kPa"}},
-        {PlotKind::stress, true, 3e6, {"3 MPa", "2 MPa", "0 MPa"}},
-        {PlotKind::stress, false, 9999, {"9999 psi", "6666 psi", "0 psi"}},
         {PlotKind::stress, false, 30000, {"30 ksi", "20 ksi", "0 ksi"}},
         {PlotKind::deflection, true, -30, {"3000 mm", "2000 mm", "0 mm"}},
-        {PlotKind::deflection, false, 30, {"3 in.", "2 in.", "0 in."}},
         {PlotKind::moment, true, 0, {"0 N-m", "0 N-m", "0 N-m"}},
     };
     for (const auto& row : rows) {
@@ -138,11 +115,6 @@ TEST(PlotPicture, PositionLabelsReadSixthsOfTheBeamInItsUnit) {
     EXPECT_EQ(shown(inches, PlotKind::stress),
               (std::vector<std::string>{"0 in.", "6.667 in.", "13.33 in.", "20 in.", "26.67 in.",
                                         "33.33 in.", "40 in."}));
-    EXPECT_EQ(shown(beam(false, 120), PlotKind::moment),
-              (std::vector<std::string>{"0 ft.", "1.667 ft.", "3.333 ft.", "5 ft.", "6.667 ft.",
-                                        "8.333 ft.", "10 ft."}));
-    EXPECT_EQ(shown(beam(true, 6), PlotKind::moment),
-              (std::vector<std::string>{"0 m", "1 m", "2 m", "3 m", "4 m", "5 m", "6 m"}));
 }
 
 TEST(PlotCurve, RunsThroughEveryCalculatedPointAndAgreesWithTheGridLabels) {
@@ -155,7 +127,6 @@ TEST(PlotCurve, RunsThroughEveryCalculatedPointAndAgreesWithTheGridLabels) {
     ASSERT_EQ(curve.point_count(), 11);
     EXPECT_EQ(curve.point(0).x, 2400);
     EXPECT_EQ(curve.point(10).x, 16800);
-    EXPECT_DOUBLE_EQ(curve.point(5).x, 9600);
     // The stored -|max| is the largest deflection upwards: on the top grid line, labelled
     // +|max| / EI.
     EXPECT_DOUBLE_EQ(curve.point(3).y, 12000 - 1600);
@@ -167,9 +138,6 @@ TEST(PlotCurve, RunsThroughEveryCalculatedPointAndAgreesWithTheGridLabels) {
 
     model.max_moment = 0.0;
     EXPECT_EQ(plot_curve(model, PlotKind::moment, kGeometry).point_count(), 0);
-    model.resolution = 200000;
-    model.max_stress = 1.0;
-    EXPECT_EQ(plot_curve(model, PlotKind::stress, kGeometry).point_count(), 200001);
 }
 
 TEST(HoverTip, NamesTheNearestPointInThePlotsUnits) {
@@ -185,8 +153,6 @@ TEST(HoverTip, NamesTheNearestPointInThePlotsUnits) {
     } rows[] = {
         {"moment_near_point_4", {2400 + 4 * 1440 + 500, 2667}, "x = 4 ft.\nMoment = 500 lb.-ft."},
         {"deflection_at_the_end", {16800, 12000 + 1600}, "x = 10 ft.\nDeflection = -2 in."},
-        {"stress_at_zero", {2400, 7333 - 1600}, "x = 0 ft.\nStress = 0 psi"},
-        {"left_of_the_plot", {2399, 2667}, std::nullopt},
         {"between_plots", {9600, 2667 + 1601}, std::nullopt},
     };
     for (const auto& row : rows) {
