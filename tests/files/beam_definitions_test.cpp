@@ -46,7 +46,6 @@ TEST(BeamDefinitions, FieldAndSectionRules) {
         {"CHANNEL\nC1\n1\n1,1\n1,E\nC2,1,1,1,1,M\n", 2, "[C1][C2]"},
         {"CHANNEL\nC1,1,1,1,1,E\n\nC2,1,1,1,1,E\n", 2, "[C1]"},
         {"CHANNEL\nC1,1,1,1,1,E\nC2,1,1\n", 2, "[C1]"},
-        {"CHANNEL\nUSER-DEFINED,1,1,1,1,E\n", 2, "[USER-DEFINED]"},
         {"USER-DEFINED\nU1,1,1,1,1,E\nU2,1,1,1,1,E\n\nUSER-DEFINED\nU3,1,1,1,1,E\n", 4, "[U3]"},
         {beyond_limit, 4, kept},
         {beyond_limit, 2, "[C1]"},
