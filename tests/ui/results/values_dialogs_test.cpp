@@ -1,7 +1,6 @@
 // The maximum values and values-at-a-point dialogs on an English and a metric example beam,
 // whose hand-calculated answers the examples' notes give (PL/4, PL^3/48EI, PL^2/16EI).
 #include <QDialog>
-#include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -81,18 +80,6 @@ TEST_F(ValuesDialogsTest, PointValuesFindTheNearestPointOrRefuseTheLocation) {
     EXPECT_EQ(readouts(dialog, kPointBoxes),
               (QStringList{"25000 lb.-ft.", "8970 psi", "-0.243 in.", "0 degrees"}));
     EXPECT_EQ(prompts.shown().size(), 3u);
-}
-
-TEST_F(ValuesDialogsTest, AMetricBeamTakesThePositionInMetres) {
-    calculated("metric-ipe300-combined-loads.lod");  // 6 m
-    trigger_results("point");
-    auto& dialog = child<QDialog>(results(), "pointvalues");
-    EXPECT_FALSE(child<QGroupBox>(dialog, "engframe").isVisibleTo(&dialog));
-    auto& location = child<QLineEdit>(dialog, "loc");
-    QTest::keyClicks(&location, "2");
-    QTest::keyClick(&location, Qt::Key_Enter);
-    EXPECT_EQ(readouts(dialog, kPointBoxes),
-              (QStringList{"66700 N-m", "120 MPa", "-12.4 mm", "-0.2 degrees"}));
 }
 
 }  // namespace
