@@ -7,23 +7,16 @@
 namespace flexley::testing {
 namespace {
 
-class CommandsTest : public LoadingFixture {
-  protected:
-    // A 20 ft English beam with three point loads, each labelled by the redraw that follows its
-    // addition, as a dialog does.
-    void three_loads() {
-        started();
-        for (double at : {60.0, 120.0, 180.0}) {
-            add_point_load(model, 100.0, at, "in", "lb");
-            trigger("redrawscreen");
-        }
-        prompts.forget_shown();
-    }
-};
+using CommandsTest = LoadingFixture;
 
 // A number rounds to the nearest feature number, so 0.4 names none; removed numbers stay taken.
 TEST_F(CommandsTest, RemoveFeatureTakesOnlyANumberThatNamesAFeature) {
-    three_loads();
+    // Three loads on the 100 ft beam, each labelled by the redraw after it, as a dialog does.
+    started();
+    for (double at : {60.0, 120.0, 180.0}) {
+        add_point_load(model, 100.0, at, "in", "lb");
+        trigger("redrawscreen");
+    }
     for (const char* answer : {"0.4", "4", "two"}) {
         SCOPED_TRACE(answer);
         prompts.answer_text(answer);

@@ -1,4 +1,4 @@
-// The Loading Screen's menus and shortcuts, and the unit commands' enabling.
+// The Loading Screen's menus and shortcuts.
 #include "ui/loading/loading_fixture.h"
 
 namespace flexley::testing {
@@ -29,16 +29,6 @@ TEST_F(MenuTest, ShortcutItemsStandInTheirMenus) {
                  {"&File", "F&eature", "&Beam", "&Calculate", "&Display", "&Units", "&Help"},
                  kMenuTable);
     EXPECT_EQ(child<QMenu>(window(), "featmenu").actions().front()->text(), "&Add Feature");
-}
-
-TEST_F(MenuTest, ExactlyOneUnitCommandIsEnabledAfterEachConversion) {
-    started();
-    EXPECT_EQ(unit_commands_enabled(window()), std::pair(true, false));
-    trigger("metricunits");
-    EXPECT_EQ(unit_commands_enabled(window()), std::pair(false, true));
-    trigger("englishunits");
-    EXPECT_FALSE(model.metric_units);
-    EXPECT_EQ(unit_commands_enabled(window()), std::pair(true, false));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Reaction texts, saving, a file named on the command line, and closing.
+// Saving, a file named on the command line, and closing.
 #include <QSignalSpy>
 #include <filesystem>
 
@@ -11,17 +11,6 @@ namespace flexley::testing {
 namespace {
 
 using RunsAndFilesTest = LoadingFixture;
-
-// The texts' formats are the label groups' concern; here the commands show and blank them.
-TEST_F(RunsAndFilesTest, ReactionTextsStandBesideTheSupportsUntilTheBeamChanges) {
-    window().start(FLEXLEY_EXAMPLES_DIR "/simply-supported-point-load.lod");
-    // Reactions only, so that no Calculations Screen is open to recalculate after the removal.
-    trigger("supreact");
-    EXPECT_EQ(caption("sloadlab21"), "2500 lb.");
-    prompts.answer_text("1");
-    trigger("removefeature");
-    EXPECT_EQ(caption("sloadlab21"), "");
-}
 
 // Opening, the overwrite question and failures are the file dialogs' concern; here Save names an
 // unsaved beam once and then saves silently.

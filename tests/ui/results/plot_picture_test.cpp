@@ -105,17 +105,6 @@ TEST(PlotPicture, ValueLabelsFollowTheMaximumInOneUnit) {
     }
 }
 
-TEST(PlotPicture, PositionLabelsReadSixthsOfTheBeamInItsUnit) {
-    const auto shown = [](const BeamModel& model, PlotKind kind) {
-        return labels(plot_picture(model, kind, kGeometry, false), Labels::positions);
-    };
-    BeamModel inches = beam(false, 40);
-    inches.positions_in_inches = true;
-    EXPECT_EQ(shown(inches, PlotKind::stress),
-              (std::vector<std::string>{"0 in.", "6.667 in.", "13.33 in.", "20 in.", "26.67 in.",
-                                        "33.33 in.", "40 in."}));
-}
-
 TEST(PlotCurve, RunsThroughEveryCalculatedPointAndAgreesWithTheGridLabels) {
     BeamModel model = beam(true, 10, 10);
     model.max_deflection = 4.0;
@@ -134,6 +123,11 @@ TEST(PlotCurve, RunsThroughEveryCalculatedPointAndAgreesWithTheGridLabels) {
         "400 mm");
     EXPECT_DOUBLE_EQ(curve.point(0).y, 12000 - 800);
     EXPECT_DOUBLE_EQ(curve.point(10).y, 12000 + 800);
+    // Position labels read sixths of the beam.
+    EXPECT_EQ(
+        labels(plot_picture(model, PlotKind::deflection, kGeometry, false), Labels::positions),
+        (std::vector<std::string>{"0 m", "1.667 m", "3.333 m", "5 m", "6.667 m", "8.333 m",
+                                  "10 m"}));
 
     model.max_moment = 0.0;
     EXPECT_EQ(plot_curve(model, PlotKind::moment, kGeometry).point_count(), 0);

@@ -45,7 +45,6 @@ TEST_F(ValuesDialogsTest, MaximumValuesShowTheRunsExtremesInTheBeamsUnits) {
         trigger_results("max");
         auto& dialog = child<QDialog>(results(), "maxvalues");
         EXPECT_EQ(readouts(dialog, kMaximumBoxes), row.texts);
-        EXPECT_TRUE(child<QPushButton>(dialog, "Command1").isDefault());
         dialog.close();
         trigger_results("showloading");
         discard_closed_windows();
@@ -56,7 +55,6 @@ TEST_F(ValuesDialogsTest, PointValuesFindTheNearestPointOrRefuseTheLocation) {
     calculated("simply-supported-point-load.lod");  // 20 ft
     trigger_results("point");
     auto& dialog = child<QDialog>(results(), "pointvalues");
-    EXPECT_TRUE(child<QRadioButton>(dialog, "ft").isChecked());
     auto& location = child<QLineEdit>(dialog, "loc");
     EXPECT_EQ(dialog.focusWidget(), &location);
 
