@@ -117,7 +117,9 @@ TEST_P(RefusalTest, LeavesBeamPictureAndDialogAsTheyWere) {
     EXPECT_TRUE(dialog(row.dialog).isVisible());
     EXPECT_EQ(dialog(row.dialog).editing_feature(), row.edited != 0);
     const QStringList last = QString(row.actions).split(' ').last().split('=');
-    if (last.size() == 2) EXPECT_EQ(box_text(row.dialog, last[0].toLatin1().constData()), last[1]);
+    if (last.size() == 2) {
+        EXPECT_EQ(box_text(row.dialog, last[0].toLatin1().constData()), last[1]);
+    }
 }
 
 // On the 100 ft beam, with simple supports at 0 and 50 ft as features 1 and 2.
