@@ -106,7 +106,9 @@ TEST_F(CliTest, FileAndPreconditionFailuresHaveTheirOwnExitCodes) {
     for (const auto& [arguments, code, err] : cases) {
         const auto outcome = run(arguments);
         EXPECT_EQ(outcome.code, code) << ::testing::PrintToString(arguments);
-        if (!err.empty()) EXPECT_EQ(outcome.err, err);
+        if (!err.empty()) {
+            EXPECT_EQ(outcome.err, err);
+        }
     }
 }
 

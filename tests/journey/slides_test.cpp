@@ -21,7 +21,9 @@ class ExampleSlides : public LoadingFixture {
         const QPixmap picture = shown.grab();
         EXPECT_FALSE(picture.isNull()) << name.toStdString();
         const QString folder = qEnvironmentVariable("FLEXLEY_SLIDES_DIR");
-        if (!folder.isEmpty()) EXPECT_TRUE(picture.save(QDir(folder).filePath(name + ".png")));
+        if (!folder.isEmpty()) {
+            EXPECT_TRUE(picture.save(QDir(folder).filePath(name + ".png")));
+        }
     }
 
     ResultsWindow& calculate(const char* example) {
